@@ -5,7 +5,7 @@ _ussd_command() {
     local word
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
         case $word in
-        send | chat | status | modems | watch | cancel)
+        send | run | chat | status | modems | watch | cancel)
             printf '%s' "$word"
             return
             ;;
@@ -20,6 +20,14 @@ _ussd_modems() {
     while read -r id; do
         [[ $id == "$1"* ]] && COMPREPLY+=("$(printf '%q' "$id")")
     done < <(ussd modems 2>/dev/null | cut -f1)
+}
+
+# Completes the name of a favourite after "run".
+_ussd_favourites() {
+    local name
+    while read -r name; do
+        [[ $name == "$1"* ]] && COMPREPLY+=("$(printf '%q' "$name")")
+    done < <(ussd run --list 2>/dev/null | cut -f1)
 }
 
 _ussd() {
@@ -48,15 +56,18 @@ _ussd() {
     if [[ $current == -* ]]; then
         options='--modem --timeout --quiet --demo --scenario --help --version'
         case $(_ussd_command) in
+        run) options+=' --enable --end-foreign-session --json --list' ;;
         send) options+=' --enable --end-foreign-session --json' ;;
         chat) options+=' --enable --end-foreign-session' ;;
         watch) options+=' --enable --json' ;;
         status | modems | cancel) options+=' --json' ;;
-        *) options+=' --enable --end-foreign-session --json' ;;
+        *) options+=' --enable --end-foreign-session --json --list' ;;
         esac
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
     elif [[ -z $(_ussd_command) ]]; then
-        mapfile -t COMPREPLY < <(compgen -W 'send chat status modems watch cancel' -- "$current")
+        mapfile -t COMPREPLY < <(compgen -W 'send run chat status modems watch cancel' -- "$current")
+    elif [[ $previous == run ]]; then
+        _ussd_favourites "$current"
     fi
 }
 

@@ -941,10 +941,6 @@
         <translation>لم تعد القائمة تعرض «%1» على المفتاح %2. لم يُرسل شيء آخر.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>توقف %1</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>حفظ</translation>
     </message>
@@ -955,6 +951,50 @@
     <message>
         <source>CHAIN_KEEP</source>
         <translation>حفظ هذا المسار…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>كان ملف المفضّلة تالفًا. حُفظ باسم %1 وبُدئ ملف جديد.</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>تعذّر حفظ المفضّلة في %1. تبقى حتى ينتهي البرنامج.</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>إعادة تسمية…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>يوجد مفضّل آخر بهذا الاسم.</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1: الخطوة %2 من %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>توقف %1 عند الخطوة %2 من %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>تعذّر إرسال الخطوة التالية.</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>تسأل الشبكة شيئًا من تلقاء نفسها. لم يُرسل شيء آخر.</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>لقد كتبت شيئًا بنفسك. لم يُرسل شيء آخر.</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>المفتاح %2 هو الآن «%3» وليس «%1». لم يُرسل شيء آخر.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

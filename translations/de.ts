@@ -942,10 +942,6 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Das Menü bietet „%1“ nicht mehr mit Taste %2 an. Es wurde nichts weiter gesendet.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 angehalten</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Merken</translation>
     </message>
@@ -956,6 +952,50 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>CHAIN_KEEP</source>
         <translation>Diesen Weg merken…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>Die Datei mit Ihren Favoriten war beschädigt. Sie bleibt als %1 erhalten, und eine neue wurde angelegt.</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>Die Favoriten können nicht in %1 gespeichert werden. Sie bleiben bis zum Ende des Programms erhalten.</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>Umbenennen…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>Ein anderer Favorit heißt schon so.</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1: Schritt %2 von %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>%1 bei Schritt %2 von %3 angehalten</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>Der nächste Schritt konnte nicht gesendet werden.</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>Das Netz stellt von sich aus eine Frage. Es wurde nichts weiter gesendet.</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>Sie haben selbst etwas eingegeben. Es wurde nichts weiter gesendet.</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>Taste %2 ist jetzt „%3“, nicht „%1“. Es wurde nichts weiter gesendet.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

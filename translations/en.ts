@@ -941,10 +941,6 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>The menu no longer offers “%1” on key %2. Nothing more was sent.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 stopped</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Keep</translation>
     </message>
@@ -955,6 +951,50 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>CHAIN_KEEP</source>
         <translation>Keep this walk…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>The file with your favourites was damaged. It is kept as %1, and a new one has been started.</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>The favourites cannot be stored in %1. They are kept until the program ends.</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>Rename…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>Another favourite has this name.</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1: step %2 of %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>%1 stopped at step %2 of %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>The next step could not be sent.</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>The network asks something of its own accord. Nothing more was sent.</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>You have typed something yourself. Nothing more was sent.</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>Key %2 is now “%3”, not “%1”. Nothing more was sent.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -941,10 +941,6 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>El menú ya no ofrece «%1» en la tecla %2. No se envió nada más.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 se detuvo</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Guardar</translation>
     </message>
@@ -955,6 +951,50 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     <message>
         <source>CHAIN_KEEP</source>
         <translation>Guardar este recorrido…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>El archivo con sus favoritos estaba dañado. Se conserva como %1 y se ha creado uno nuevo.</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>No se pueden guardar los favoritos en %1. Se conservan hasta que se cierre el programa.</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>Cambiar nombre…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>Otro favorito ya tiene este nombre.</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1: paso %2 de %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>%1 detenido en el paso %2 de %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>No se pudo enviar el paso siguiente.</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>La red hace una pregunta por su cuenta. No se envió nada más.</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>Ha escrito algo usted mismo. No se envió nada más.</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>La tecla %2 es ahora «%3», no «%1». No se envió nada más.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -942,10 +942,6 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Le menu ne propose plus « %1 » sur la touche %2. Rien d’autre n’a été envoyé.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 s’est arrêté</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Garder</translation>
     </message>
@@ -956,6 +952,50 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>CHAIN_KEEP</source>
         <translation>Garder ce parcours…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>Le fichier de vos favoris était endommagé. Il est conservé sous le nom %1, et un nouveau a été créé.</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>Les favoris ne peuvent pas être enregistrés dans %1. Ils sont conservés jusqu’à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>Renommer…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>Un autre favori porte déjà ce nom.</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1 : étape %2 sur %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>%1 arrêté à l’étape %2 sur %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>L’étape suivante n’a pas pu être envoyée.</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>Le réseau pose une question de lui-même. Rien d’autre n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>Vous avez saisi quelque chose vous-même. Rien d’autre n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>La touche %2 est maintenant « %3 », pas « %1 ». Rien d’autre n’a été envoyé.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -942,10 +942,6 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>O menu já não oferece “%1” na tecla %2. Nada mais foi enviado.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 parou</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Guardar</translation>
     </message>
@@ -956,6 +952,50 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>CHAIN_KEEP</source>
         <translation>Guardar este percurso…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>O ficheiro com os seus favoritos estava danificado. Fica guardado como %1 e foi criado um novo.</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>Não é possível guardar os favoritos em %1. Ficam disponíveis até o programa terminar.</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>Mudar o nome…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>Outro favorito já tem este nome.</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1: passo %2 de %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>%1 parou no passo %2 de %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>Não foi possível enviar o passo seguinte.</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>A rede faz uma pergunta por iniciativa própria. Nada mais foi enviado.</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>Escreveu algo por si. Nada mais foi enviado.</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>A tecla %2 é agora “%3”, não “%1”. Nada mais foi enviado.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

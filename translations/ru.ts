@@ -940,10 +940,6 @@
         <translation>В меню больше нет «%1» на клавише %2. Больше ничего не отправлено.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1: остановлено</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Запомнить</translation>
     </message>
@@ -954,6 +950,50 @@
     <message>
         <source>CHAIN_KEEP</source>
         <translation>Запомнить этот путь…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>Файл избранного был повреждён. Он сохранён как %1, создан новый файл.</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>Избранное не удаётся сохранить в %1. Оно хранится до завершения программы.</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>Переименовать…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>Такое имя уже есть в избранном.</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1: шаг %2 из %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>%1: остановлено на шаге %2 из %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>Следующий шаг не удалось отправить.</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>Сеть сама задала вопрос. Больше ничего не отправлено.</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>Вы сами начали ввод. Больше ничего не отправлено.</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>Клавиша %2 теперь «%3», а не «%1». Больше ничего не отправлено.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -938,10 +938,6 @@
         <translation>菜单的按键 %2 不再是“%1”。没有再发送任何内容。</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 已停止</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>保存</translation>
     </message>
@@ -952,6 +948,50 @@
     <message>
         <source>CHAIN_KEEP</source>
         <translation>保存此路径…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>您的收藏文件已损坏。它已保留为 %1，并已新建一个文件。</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>无法将收藏保存到 %1。收藏会保留到程序结束。</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>重命名…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>已有同名的收藏。</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1：第 %2 步，共 %3 步</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>%1 在第 %2 步（共 %3 步）停止</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>无法发送下一步。</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>网络主动提出了问题。未再发送任何内容。</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>您自己输入了内容。未再发送任何内容。</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>按键 %2 现在是“%3”，不是“%1”。未再发送任何内容。</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -8,11 +8,13 @@ class Program;
 
 /*
  * Each of these functions executes a command and returns its exit code. Program::selectDevice()
- * must have succeeded. The caller replaces the exit code if a signal has arrived or if writing to
- * standard output has failed.
+ * must have succeeded, except for printFavourites(). The caller replaces the exit code if a signal
+ * has arrived or if writing to standard output has failed.
  */
 
 int send(Program &program);
+int runFavourite(Program &program);
+int printFavourites(Program &program);
 int chat(Program &program);
 int printStatus(Program &program);
 int printModems(Program &program);

@@ -22,6 +22,8 @@ const char SUMMARY[] =
     "Commands:\n"
     "  send CODE [ANSWER…]   Print the reply to a code, and answer its menus in turn\n"
     "  send -                Send each line of standard input as a code\n"
+    "  run NAME [ANSWER…]    Send a favourite of the dashboard, and answer its menus in turn\n"
+    "  run --list            Print the favourites\n"
     "  chat [CODE]           Answer menus at a prompt; Ctrl-D ends the session and the program\n"
     "  status                Print the state of the modem\n"
     "  modems                Print all modems\n"
@@ -43,6 +45,7 @@ struct Values {
     gboolean isQuiet = FALSE;
     gboolean enablesModem = FALSE;
     gboolean endsForeignSession = FALSE;
+    gboolean listsFavourites = FALSE;
     gboolean wantsHelp = FALSE;
     gboolean wantsVersion = FALSE;
     char **words = nullptr;
@@ -60,16 +63,18 @@ struct CommandRow {
     bool takesJson;
     bool takesEnable;
     bool takesEndForeignSession;
+    bool takesList;
 };
 
 const std::size_t ANY_NUMBER = SIZE_MAX;
 const CommandRow COMMANDS[] = {
-    {"send", Command::Send, 1, ANY_NUMBER, true, true, true},
-    {"chat", Command::Chat, 0, 1, false, true, true},
-    {"status", Command::Status, 0, 0, true, false, false},
-    {"modems", Command::Modems, 0, 0, true, false, false},
-    {"watch", Command::Watch, 0, 0, true, true, false},
-    {"cancel", Command::Cancel, 0, 0, true, false, false},
+    {"send", Command::Send, 1, ANY_NUMBER, true, true, true, false},
+    {"run", Command::Run, 1, ANY_NUMBER, true, true, true, true},
+    {"chat", Command::Chat, 0, 1, false, true, true, false},
+    {"status", Command::Status, 0, 0, true, false, false, false},
+    {"modems", Command::Modems, 0, 0, true, false, false, false},
+    {"watch", Command::Watch, 0, 0, true, true, false, false},
+    {"cancel", Command::Cancel, 0, 0, true, false, false, false},
 };
 
 std::vector<GOptionEntry> entriesFor(Values &values)
@@ -87,6 +92,7 @@ std::vector<GOptionEntry> entriesFor(Values &values)
          "End the session of another program first", nullptr},
         {"json", 0, 0, G_OPTION_ARG_NONE, &values.isJson, "Print JSON, one object on each line",
          nullptr},
+        {"list", 0, 0, G_OPTION_ARG_NONE, &values.listsFavourites, "Print the favourites", nullptr},
         {"quiet", 'q', 0, G_OPTION_ARG_NONE, &values.isQuiet, "Print errors, but no notices",
          nullptr},
         {"demo", 0, 0, G_OPTION_ARG_NONE, &values.isDemo, "Use a simulated network", nullptr},
@@ -145,16 +151,26 @@ std::string problemOfAnswer(const std::string &word)
     return problemOfWord(word);
 }
 
-std::string problemOfWords(const CommandRow &row, const std::vector<std::string> &words)
+std::string problemOfNumber(const CommandRow &row, const Options &options)
 {
-    if (words.size() < row.fewestWords)
-        return quoted(row.name) + " needs a code";
-    if (words.size() > row.mostWords)
-        return quoted(row.name) + " takes no argument " + quoted(words[row.mostWords]);
+    const std::size_t fewest = options.listsFavourites ? 0 : row.fewestWords;
+    const std::size_t most = options.listsFavourites ? 0 : row.mostWords;
+    if (options.words.size() < fewest)
+        return quoted(row.name) +
+               (row.takesList ? " needs the name of a favourite" : " needs a code");
+    if (options.words.size() > most)
+        return quoted(row.name) + " takes no argument " + quoted(options.words[most]);
+    return std::string();
+}
+
+std::string problemOfWords(const CommandRow &row, const Options &options)
+{
+    const std::vector<std::string> &words = options.words;
+    std::string problem = problemOfNumber(row, options);
     if (row.command == Command::Send && words.size() == 1 && words.front() == READS_INPUT)
-        return std::string();
-    std::string problem;
-    for (std::size_t i = 0; i < words.size() && problem.empty(); ++i)
+        return problem;
+    // The first argument of `run` is the name of a favourite, which may contain anything.
+    for (std::size_t i = row.takesList ? 1 : 0; i < words.size() && problem.empty(); ++i)
         problem = i == 0 ? problemOfWord(words[i]) : problemOfAnswer(words[i]);
     return problem;
 }
@@ -168,6 +184,8 @@ std::string problemOfOptions(const CommandRow &row, const Options &options)
         return "--enable" + command;
     if (options.endsForeignSession && !row.takesEndForeignSession)
         return "--end-foreign-session" + command;
+    if (options.listsFavourites && !row.takesList)
+        return "--list" + command;
     if (!options.modem.empty() && (options.isDemo || !options.scenario.empty()))
         return "--modem cannot be combined with --demo or --scenario";
     return std::string();
@@ -197,7 +215,7 @@ std::string readCommand(Options &options)
             continue;
         options.command = row.command;
         const std::string problem = problemOfOptions(row, options);
-        return problem.empty() ? problemOfWords(row, options.words) : problem;
+        return problem.empty() ? problemOfWords(row, options) : problem;
     }
     return "there is no command " + quoted(name);
 }
@@ -218,6 +236,7 @@ std::string readValues(Values &values, Options &options)
     options.isQuiet = values.isQuiet;
     options.enablesModem = values.enablesModem;
     options.endsForeignSession = values.endsForeignSession;
+    options.listsFavourites = values.listsFavourites;
     if (values.wantsHelp || values.wantsVersion) {
         options.command = values.wantsHelp ? Command::Help : Command::Version;
         return std::string();

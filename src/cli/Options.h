@@ -9,12 +9,12 @@
 namespace Cli
 {
 
-enum class Command { Help, Version, Send, Chat, Status, Modems, Watch, Cancel };
+enum class Command { Help, Version, Send, Run, Chat, Status, Modems, Watch, Cancel };
 
 /** The parsed command line. */
 struct Options {
     Command command = Command::Help;
-    std::vector<std::string> words; // the code and the answers
+    std::vector<std::string> words; // the code or the favourite, and the answers
     std::string modem;
     std::string scenario;
     Milliseconds timeout = std::chrono::seconds(30);
@@ -23,6 +23,7 @@ struct Options {
     bool isQuiet = false;
     bool enablesModem = false;
     bool endsForeignSession = false;
+    bool listsFavourites = false;
 
     std::string help;  // the text to print for --help
     std::string error; // the error message; empty if the command line is valid

@@ -73,6 +73,15 @@ void Program::awaitModem()
     m_device.awaitModem(readyLimit());
 }
 
+void Program::awaitSim()
+{
+    const auto isKnown = [this] {
+        const TKSV_DeviceInfo now = m_device.info();
+        return *now.imsi || *now.simOperatorCode || !isReady(now);
+    };
+    m_device.await(isKnown, Clock::now() + readyLimit());
+}
+
 TKSV_DeviceInfo Program::awaitedInfo() const
 {
     TKSV_DeviceInfo device = m_device.info();
@@ -132,6 +141,7 @@ int Program::send(Conversation &conversation, const std::string &text, Kind kind
         printFailure(text, outcome, messageOf(outcome.failure) + hintFor(outcome));
     else
         printReply(text, outcome);
+    m_lastReply = outcome.text;
     return exitCodeOf(outcome.failure.reason);
 }
 

@@ -50,6 +50,10 @@ public:
     /// session of another program. Answers are never repeated, because an answer without its menu
     /// would be sent as a code.
     int send(Conversation &conversation, const std::string &text, Kind kind);
+    /// Returns the newest reply, in UTF-8.
+    const std::string &lastReply() const { return m_lastReply; }
+    /// Waits until the home network of the SIM is known, but only for a short time.
+    void awaitSim();
 
 private:
     Milliseconds readyLimit() const;
@@ -62,6 +66,7 @@ private:
     Waits m_waits;
     Output m_output;
     Device m_device;
+    std::string m_lastReply;
     bool m_hasPrintedReply = false;
 };
 

@@ -1,3 +1,4 @@
+#include "Answers.h"
 #include "Commands.h"
 #include "CommandText.h"
 #include "ExitCodes.h"
@@ -10,45 +11,14 @@ namespace Cli
 namespace
 {
 
-const char NOT_ANSWERED[] = "The menu was not answered, and the session was ended.";
-
-using Words = std::vector<std::string>;
-
-/// Prints the message and the unsent answers, which start at index `first`.
-void reportUnsent(Program &program, std::string message, const Words &words, std::size_t first)
-{
-    for (std::size_t i = first; i < words.size(); ++i)
-        message += (i == first ? "Not sent: " : " ") + words[i];
-    if (!message.empty())
-        program.output().error(message);
-}
-
-/// Ends the session if a menu is open, and returns the exit code.
-int closeMenu(Program &program, Conversation &conversation)
-{
-    if (!conversation.isMenuOpen())
-        return EXIT_DONE;
-    conversation.end();
-    program.output().error(NOT_ANSWERED);
-    return EXIT_MENU_OPEN;
-}
-
 /// Sends a code, and then the answers to its menus. Stops after the first failure.
 int sendWords(Program &program, Conversation &conversation, const Words &words)
 {
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        if (i > 0 && !conversation.isMenuOpen()) {
-            reportUnsent(program, "There is no menu to answer. ", words, i);
-            return EXIT_REFUSED;
-        }
-        const Program::Kind kind = i == 0 ? Program::Kind::Code : Program::Kind::Answer;
-        const int result = program.send(conversation, words[i], kind);
-        if (result != EXIT_DONE || program.output().hasFailed()) {
-            reportUnsent(program, std::string(), words, i + 1);
-            return result;
-        }
-    }
-    return closeMenu(program, conversation);
+    const int result = program.send(conversation, words.front(), Program::Kind::Code);
+    if (result == EXIT_DONE && !program.output().hasFailed())
+        return sendAnswers(program, conversation, words, 1);
+    reportUnsent(program, std::string(), words, 1);
+    return result;
 }
 
 /// Sends the code in line `number`. Returns EXIT_WRONG_USAGE if it is not a valid code.

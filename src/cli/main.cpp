@@ -30,6 +30,8 @@ int runCommand(Program &program)
     switch (program.options().command) {
     case Command::Send:
         return send(program);
+    case Command::Run:
+        return program.options().listsFavourites ? printFavourites(program) : runFavourite(program);
     case Command::Chat:
         return chat(program);
     case Command::Status:
@@ -67,7 +69,8 @@ int run(const Options &options)
         program.output().error("ussd: " + options.error + ".\nTry 'ussd --help'.");
         return EXIT_WRONG_USAGE;
     }
-    const bool usesDevice = options.command != Command::Help && options.command != Command::Version;
+    const bool usesDevice = options.command != Command::Help &&
+                            options.command != Command::Version && !options.listsFavourites;
     if (usesDevice && !program.selectDevice())
         return EXIT_WRONG_USAGE;
     const int result = runCommand(program);

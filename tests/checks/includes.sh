@@ -77,7 +77,7 @@ check "$core_own" "$any" src/core src/core/common src/compat src/files
 check "$(cpp_files src/compat)" "$qt|$standard" src/compat
 check "$(cpp_files src/files)" "$qt|$standard" src/files
 check_layers "$any" src/dashboard \
-    "src/provisioning src/formats src/core $contracts src/sdk/tksv_device.h src/cli/FailureText.h
+    "src/provisioning src/formats src/core src/chains $contracts src/sdk/tksv_device.h src/cli/FailureText.h
     src/cli/ExitCodes.h" \
     base look device plugin sim account messages pages window tour
 check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/formats src/compat src/files
@@ -85,7 +85,8 @@ check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/formats src
     src/core/common src/compat src/files src/sdk
 sdk_angle='^[a-pr-zA-PR-Z]' # excludes Qt headers
 sdk_headers='src/sdk/tksv.h src/sdk/tksv_device.h'
-check "$(cpp_files src/cli)" "$sdk_angle" src/cli $sdk_headers
+check "$(cpp_files src/chains)" "$sdk_angle" src/chains
+check "$(cpp_files src/cli)" "$sdk_angle" src/cli src/chains $sdk_headers
 sdk_top=$(cpp_files src/sdk | grep -vE '^src/sdk/(base|sim|modemmanager)/')
 check "$sdk_top" "$sdk_angle" src/sdk
 check "$(cpp_files src/sdk/base)" "$sdk_angle" src/sdk/base $sdk_headers

@@ -16,7 +16,7 @@ complain() {
 options=$("$program" --help | grep -oE -- '^ +(-[a-z], )?--[a-z-]+' | grep -oE -- '--[a-z-]+')
 commands=$("$program" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]\{1,\}\) .*/\1/p' | sort -u)
 [ "$(wc -w <<<"$options")" -ge 10 ] || complain "the options of --help were not recognised: $options"
-[ "$(wc -w <<<"$commands")" -eq 6 ] || complain "the commands of --help were not recognised: $commands"
+[ "$(wc -w <<<"$commands")" -eq 7 ] || complain "the commands of --help were not recognised: $commands"
 page=$(sed 's/\\-/-/g; s/\\f.//g' "$root/man/ussd.1")
 for word in $options $commands; do
     grep -qE -- "(^|[^a-z-])$word([^a-z-]|\$)" <<<"$page" || complain "man/ussd.1 lacks $word"
@@ -30,6 +30,11 @@ done
 
 . "$root/completions/ussd.bash"
 ussd() {
+    if [ "$*" = 'run --list' ]; then
+        printf 'Balance\t*100#\t00101\n'
+        printf '%s\t*123# 1\t00101\n' 'My $(complain a name ran a command >&3)'
+        return
+    fi
     [ "$*" = modems ] || return
     printf '350000000000017\tExample One\tregistered\n'
     printf '%s\tHostile\tregistered\n' '$(complain a modem ran a command >&3)'
@@ -47,7 +52,7 @@ proposes() {
 }
 
 proposes 'ussd s' 'send status'
-proposes 'ussd ' 'send chat status modems watch cancel'
+proposes 'ussd ' 'send run chat status modems watch cancel'
 proposes 'ussd send --en' '--enable --end-foreign-session'
 proposes 'ussd watch --en' '--enable'
 proposes 'ussd modems --e' ''
@@ -60,6 +65,10 @@ proposes 'ussd --modem 9' ''
 # The modem identifier is untrusted input from the modem, so the shell must not expand it.
 exec 3>&1
 proposes 'ussd --modem ' '350000000000017 \$\(complain\ a\ modem\ ran\ a\ command\ \>\&3\)'
+proposes 'ussd run B' 'Balance'
+proposes 'ussd run ' 'Balance My\ \$\(complain\ a\ name\ ran\ a\ command\ \>\&3\)'
+proposes 'ussd run --l' '--list'
+proposes 'ussd send --l' ''
 proposes 'ussd send *100# ' ''
 cd "$root" || exit 2
 proposes 'ussd --scenario scenarios/po' 'scenarios/postpaid.scenario'

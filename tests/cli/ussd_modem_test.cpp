@@ -31,6 +31,12 @@ Reply=رصيدك ١٢٫٥٠
 Reply=Menu\n1 Data
 [*123#/1]
 Reply=You chose 1.
+[*126#]
+Reply=Menu\n1 Account\n2 Internet
+[*126#/2]
+Reply=Internet\n1 1 GB for 2 EUR\n2 Back
+[*126#/2/1]
+Reply=You have bought 1 GB.
 [*130#]
 Outcome=refuse
 [*131#]
@@ -88,6 +94,9 @@ private slots:
     void repliesAndMenus();
     void jsonNamesTheModem();
     void anUnansweredMenuIsEndedOnTheModem();
+    void aChainIsRunThroughTheMenus();
+    void aChainStopsAtAChangedMenu();
+    void aFavouriteOfAnotherNetworkIsNotSent();
     void aChatEndsItsMenu();
     void failuresHaveTheirExitCode_data();
     void failuresHaveTheirExitCode();
@@ -126,6 +135,7 @@ private:
     bool isIdle();
     std::unique_ptr<MmClient> otherProgram();
     void compareManyPrograms(int count);
+    void writeChain(const QByteArray &network, const QByteArray &lastChoice);
 
     std::unique_ptr<FakeModems::ModemWorld> m_world;
 };
@@ -206,6 +216,48 @@ void UssdModemTest::anUnansweredMenuIsEndedOnTheModem()
     QCOMPARE(result.out, latin1("Menu\n1 Data\n"));
     QVERIFY(modem().waitForCommand(CANCEL));
     QVERIFY(isIdle());
+}
+
+/// Writes the file that a dashboard would have written.
+void UssdModemTest::writeChain(const QByteArray &network, const QByteArray &lastChoice)
+{
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder()));
+    QVERIFY(QDir().mkpath(folder() + QLatin1String("/ussd-dashboard")));
+    writeFile(QLatin1String("ussd-dashboard/favourites.json"),
+              "{\"version\":1,\"networks\":{\"" + network +
+                  "\":{\"chains\":[{\"name\":\"Pack\",\"code\":\"*126#\",\"steps\":["
+                  "{\"key\":\"2\",\"text\":\"Internet\"},{\"key\":\"1\",\"text\":\"" +
+                  lastChoice + "\"}]}]}}}");
+}
+
+void UssdModemTest::aChainIsRunThroughTheMenus()
+{
+    writeChain("00101", "1 GB for 2 EUR");
+    const Run result = run("run Pack");
+    COMPARE_EXIT(result, EXIT_DONE);
+    QVERIFY2(result.out.endsWith(latin1("\n\nYou have bought 1 GB.\n")), qPrintable(result.out));
+    QCOMPARE(modem().timesReceived(INITIATE), 3);
+    QCOMPARE(modem().timesReceived(CANCEL), 0);
+}
+
+void UssdModemTest::aChainStopsAtAChangedMenu()
+{
+    writeChain("00101", "1 GB for 1 EUR");
+    const Run result = run("run Pack");
+    COMPARE_EXIT(result, EXIT_MENU_OPEN);
+    QVERIFY2(result.error.contains(latin1("Stopped at step 3 of 3")), qPrintable(result.error));
+    QCOMPARE(modem().timesReceived(INITIATE), 2); // nothing was bought
+    QVERIFY(modem().waitForCommand(CANCEL));
+    QVERIFY(isIdle());
+}
+
+void UssdModemTest::aFavouriteOfAnotherNetworkIsNotSent()
+{
+    writeChain("26201", "1 GB for 2 EUR");
+    const Run result = run("run Pack");
+    COMPARE_EXIT(result, EXIT_WRONG_USAGE);
+    QVERIFY2(result.error.contains(latin1("another home network")), qPrintable(result.error));
+    QCOMPARE(modem().timesReceived(INITIATE), 0);
 }
 
 void UssdModemTest::aChatEndsItsMenu()

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "CliTest.h"
@@ -11,6 +12,17 @@ using namespace Cli;
 
 namespace
 {
+
+const char FAVOURITES[] =
+    R"({"version":1,"networks":{"unknown":{"favourites":[{"name":"Balance","code":"*100#"},
+{"chain":"Way"},{"name":"Cold","code":"*124#"},{"name":"To","code":"*12%s#"}],"chains":[
+{"name":"Way","code":"*125#","steps":[{"key":"2","text":"Second"},{"key":"1","text":"Deeper"}]},
+{"name":"Changed","code":"*125#","steps":[{"key":"2","text":"Second"},{"key":"1","text":"Deep"}]},
+{"name":"Moved","code":"*125#","steps":[{"key":"3","text":"Second"}]},
+{"name":"Gone","code":"*100#","steps":[{"key":"1","text":"First"}]},
+{"name":"Double","code":"*100#","steps":[{"key":"1","text":"First"}]},
+{"name":"double","code":"*100#","steps":[{"key":"1","text":"First"}]}]},
+"26201":{"favourites":[{"name":"Foreign","code":"*100#"}],"chains":[]}}})";
 
 const char DEMONSTRATION[] = "Demonstration: the network is invented; nothing is sent.\n";
 
@@ -67,6 +79,18 @@ private slots:
     void failuresAreJson();
     void jsonKeepsControlCharacters();
 
+    void favouritesArePrinted();
+    void withoutAFileThereAreNoFavourites();
+    void aFavouriteIsRun_data();
+    void aFavouriteIsRun();
+    void aChainStopsAtAChangedMenu();
+    void aChainStopsWithoutAMenu();
+    void aStoppedChainIsJson();
+    void aFavouriteThatCannotBeRun_data();
+    void aFavouriteThatCannotBeRun();
+    void aDamagedFileOfFavouritesIsReported();
+    void aPipeInPlaceOfTheFavouritesDoesNotBlock();
+
     void codesAreReadFromStandardInput();
     void theFirstFailureEndsTheInput();
     void aLineThatIsNoCodeEndsTheInput();
@@ -99,6 +123,7 @@ private slots:
 
 private:
     Run runWith(const QByteArray &scenario, const QStringList &arguments);
+    void writeFavourites(const QByteArray &json);
 };
 
 /// Sets the environment for the programs. CTest itself sets TKSV_BACKEND=simulator.
@@ -106,6 +131,14 @@ void UssdProgramTest::setUp()
 {
     qputenv("TKSV_SCENARIO", CLI_SCENARIO);
     qputenv("TKSV_BACKEND", "simulator");
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder()));
+}
+
+/// Writes the file that a dashboard would have written.
+void UssdProgramTest::writeFavourites(const QByteArray &json)
+{
+    QVERIFY(QDir().mkpath(folder() + QLatin1String("/ussd-dashboard")));
+    writeFile(QLatin1String("ussd-dashboard/favourites.json"), json);
 }
 
 Run UssdProgramTest::runWith(const QByteArray &scenario, const QStringList &arguments)
@@ -144,6 +177,10 @@ void UssdProgramTest::mistakesEndWithUsage_data()
     row("quote", words("send *100\"#"), "quote");
     row("control character", QStringList() << latin1("send") << latin1("*1\n#"), "control");
     row("too long", QStringList() << latin1("send") << QString(185, QLatin1Char('1')), "184");
+    row("no favourite", words("run"), "favourite");
+    row("list with a favourite", words("run --list Balance"), "'Balance'");
+    row("list of codes", words("send --list *100#"), "--list");
+    row("code after a favourite", words("run Balance *100#"), "'*100#'");
     row("code as an answer", words("send *123# *100#"), "'*100#'");
     row("words beside standard input", words("send - 1"), "'-'");
     row("standard input as an answer", words("send *123# -"), "'-'");
@@ -425,6 +462,148 @@ void UssdProgramTest::jsonKeepsControlCharacters()
 }
 
 /* ---- standard input ---------------------------------------------------------------------- */
+
+void UssdProgramTest::favouritesArePrinted()
+{
+    writeFavourites(FAVOURITES);
+    const Run result = run("run --list");
+    COMPARE_EXIT(result, EXIT_DONE);
+    QVERIFY2(result.out.startsWith(QString::fromUtf8("Foreign\t*100#\t26201\n"
+                                                     "Balance\t*100#\tunknown\n")),
+             qPrintable(result.out));
+    QVERIFY(result.out.contains(QString::fromUtf8("Way\t*125# › 2 › 1\tunknown\n")));
+    QCOMPARE(result.error, QString()); // no device is used
+    const QList<QJsonObject> objects = objectsIn(run("run --list --json").out);
+    QCOMPARE(objects.size(), 10); // one object for each
+    QCOMPARE(objects.first().value(latin1("name")).toString(), latin1("Foreign"));
+    QCOMPARE(objects.first().value(latin1("network")).toString(), latin1("26201"));
+}
+
+void UssdProgramTest::withoutAFileThereAreNoFavourites()
+{
+    const Run result = run("run --list");
+    COMPARE_EXIT(result, EXIT_DONE);
+    QCOMPARE(result.out + result.error, QString());
+}
+
+void UssdProgramTest::aFavouriteIsRun_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("out");
+    QTest::newRow("code") << words("run Balance") << int(EXIT_DONE)
+                          << latin1("Your balance is 7.00 EUR.\n");
+    QTest::newRow("other case") << words("run BALANCE") << int(EXIT_DONE)
+                                << latin1("Your balance is 7.00 EUR.\n");
+    QTest::newRow("chain") << words("run Way") << int(EXIT_DONE)
+                           << latin1("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n2 Back\n\n"
+                                     "Deep enough.\n");
+    QTest::newRow("with an answer")
+        << words("run Cold -- -5") << int(EXIT_DONE) << latin1("How cold?\n\nIt is -5.\n");
+    QTest::newRow("menu left open")
+        << words("run Cold") << int(EXIT_MENU_OPEN) << latin1("How cold?\n");
+    QTest::newRow("with a number")
+        << words("run To 4") << int(EXIT_MENU_OPEN) << latin1("How cold?\n");
+    QTest::newRow("with a number and an answer")
+        << words("run To 4 7") << int(EXIT_DONE) << latin1("How cold?\n\nIt is 7.\n");
+}
+
+void UssdProgramTest::aFavouriteIsRun()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, code);
+    QFETCH(QString, out);
+    writeFavourites(FAVOURITES);
+    const Run result = run(arguments);
+    COMPARE_EXIT(result, code);
+    QCOMPARE(result.out, out);
+}
+
+void UssdProgramTest::aChainStopsAtAChangedMenu()
+{
+    writeFavourites(FAVOURITES);
+    Run result = run("run Changed");
+    COMPARE_EXIT(result, EXIT_MENU_OPEN);
+    QCOMPARE(result.out,
+             latin1("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n2 Back\n")); // no third reply
+    QVERIFY2(result.error.contains(
+                 latin1("Stopped at step 3 of 3: the menu no longer offers 'Deep' on key 1, but "
+                        "'Deeper'. Nothing more was sent, and the session was ended.")),
+             qPrintable(result.error));
+    result = run("run Moved");
+    COMPARE_EXIT(result, EXIT_MENU_OPEN);
+    QVERIFY2(result.error.contains(
+                 latin1("step 2 of 2: the menu no longer offers 'Second' on key 3. Nothing")),
+             qPrintable(result.error));
+}
+
+void UssdProgramTest::aChainStopsWithoutAMenu()
+{
+    writeFavourites(FAVOURITES);
+    const Run result = run("run Gone");
+    COMPARE_EXIT(result, EXIT_REFUSED);
+    QCOMPARE(result.out, latin1("Your balance is 7.00 EUR.\n"));
+    QVERIFY(result.error.contains(latin1("there is no menu that offers 'First'")));
+}
+
+void UssdProgramTest::aStoppedChainIsJson()
+{
+    writeFavourites(FAVOURITES);
+    const Run result = run("run --json Changed");
+    COMPARE_EXIT(result, EXIT_MENU_OPEN);
+    const QList<QJsonObject> objects = objectsIn(result.out);
+    QCOMPARE(objects.size(), 3);
+    const QJsonObject stopped = objects.last();
+    QCOMPARE(stopped.value(latin1("state")).toString(), latin1("stopped"));
+    QCOMPARE(stopped.value(latin1("step")).toInt(), 3);
+    QCOMPARE(stopped.value(latin1("key")).toString(), latin1("1"));
+    QCOMPARE(stopped.value(latin1("expected")).toString(), latin1("Deep"));
+    QCOMPARE(stopped.value(latin1("offered")).toString(), latin1("Deeper"));
+}
+
+void UssdProgramTest::aFavouriteThatCannotBeRun_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("unknown") << words("run Bogus") << latin1("There is no favourite 'Bogus'.");
+    QTest::newRow("not UTF-8") << QStringList{latin1("run"), QString(QChar(0xd800))}
+                               << latin1("There is no favourite");
+    QTest::newRow("another network")
+        << words("run Foreign") << latin1("'Foreign' belongs to another home network.");
+    QTest::newRow("without its number") << words("run To") << latin1("'To' needs a number");
+    QTest::newRow("number with letters") << words("run To 4a") << latin1("'To' needs a number");
+    QTest::newRow("twice") << words("run Double") << latin1("several favourites 'Double'");
+}
+
+void UssdProgramTest::aFavouriteThatCannotBeRun()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    writeFavourites(FAVOURITES);
+    const Run result = run(arguments);
+    COMPARE_EXIT(result, EXIT_WRONG_USAGE);
+    QVERIFY2(result.error.contains(message), qPrintable(result.error));
+    QCOMPARE(result.out, QString());
+}
+
+void UssdProgramTest::aDamagedFileOfFavouritesIsReported()
+{
+    writeFavourites("{\"version\":1,\"networks\":{\"unknown\":{\"favourites\":"
+                    "[7,{\"name\":\"Balance\",\"code\":\"*100#\"}]}}}");
+    const Run result = run("run Balance");
+    COMPARE_EXIT(result, EXIT_DONE);
+    QVERIFY(result.error.contains(latin1("favourites.json is damaged")));
+}
+
+void UssdProgramTest::aPipeInPlaceOfTheFavouritesDoesNotBlock()
+{
+    QVERIFY(QDir().mkpath(folder() + QLatin1String("/ussd-dashboard")));
+    const QString pipe = folder() + QLatin1String("/ussd-dashboard/favourites.json");
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    const Run result = run("run Balance");
+    COMPARE_EXIT(result, EXIT_WRONG_USAGE);
+    QVERIFY(result.error.contains(latin1("it is not a file")));
+}
 
 void UssdProgramTest::codesAreReadFromStandardInput()
 {

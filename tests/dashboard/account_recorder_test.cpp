@@ -4,6 +4,7 @@
 #include "account/AccountRecorder.h"
 #include "account/AccountStore.h"
 #include "Languages.h"
+#include "plugin/CodeForms.h"
 #include "plugin/ReplyTap.h"
 #include "UssdTest.h"
 
@@ -48,6 +49,7 @@ private slots:
     void codesOfAnUnknownContract();
     void codesOfThePlainFolder();
     void ownCodesAreAdded();
+    void everyCodeWithAPlaceIsKnown();
     void namesFollowTheLanguage();
     void aReplyToTheBalanceCodeIsKept();
     void otherRepliesAreNotKept();
@@ -108,6 +110,26 @@ void AccountRecorderTest::ownCodesAreAdded()
     QCOMPARE(codes.all.size(), 12);
     QCOMPARE(codes.all.last().name, QLatin1String("My pack"));
     QVERIFY(codes.all.last().isOwn);
+}
+
+/// The numbers in these codes are hidden in the history, however short they are.
+void AccountRecorderTest::everyCodeWithAPlaceIsKnown()
+{
+    m_files.userProfiles =
+        writeFile(QLatin1String("own.xml"),
+                  "<tksvdoc><item><name>Mine</name><value>*7*%s#</value><readonly>false</readonly>"
+                  "<showButton>false</showButton><langID></langID><desLangID></desLangID></item>"
+                  "</tksvdoc>");
+    QFile configuration(latin1(CONFIGURATION));
+    QVERIFY(configuration.open(QIODevice::ReadOnly));
+    m_files.configuration = writeFile(QLatin1String("configuration.xml"),
+                                      configuration.readAll().replace("*101*%s#", "*191*%s#"));
+    const QStringList codes = readCodesWithPlace(m_files);
+    QVERIFY2(codes.contains(code("*140*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
+    QVERIFY(codes.contains(code("*7*%s#")));
+    QVERIFY2(codes.contains(code("*191*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
+    QVERIFY(!codes.contains(code("*100#")));
+    QCOMPARE(codeWithoutNumbers(code("*191*12#"), codes), QString::fromUtf8("*191*…#"));
 }
 
 void AccountRecorderTest::namesFollowTheLanguage()

@@ -7,16 +7,19 @@
 #include <QMessageBox>
 #include <QScrollBar>
 #include <QTimer>
-#include <QTreeView>
 
+#include "account/Favourites.h"
 #include "CommandTest.h"
 #include "look/Look.h"
+#include "pages/ChainDialog.h"
 #include "pages/CodesPage.h"
 #include "pages/GeneralArea.h"
 #include "pages/HistoryPopup.h"
+#include "pages/HistoryView.h"
 #include "pages/TopUpSheet.h"
 #include "plugin/CodeHistory.h"
 #include "plugin/KeyboardHelper.h"
+#include "plugin/WalkWatcher.h"
 
 using namespace Dashboard;
 
@@ -40,6 +43,13 @@ private slots:
     void theCodesSheetPressesHiddenButtons();
     void theTopUpSheetFillsInTheNumber();
     void theHistoryOpensInTheEmptyField();
+    void theFooterOfTheHistoryStays();
+    void theHistoryIsDeletedWithTheKeyboard();
+    void anEmptyHistoryOpens();
+    void aChainIsInTheHistory();
+    void aWalkIsKept();
+    void aStoppedChainShowsWhyAndLeavesTheMenu();
+    void aBlockedPageRunsNoChain();
     void returnSendsWhatIsTyped();
     void escapeEmptiesTheField();
     void theReplyIsCopied();
@@ -69,9 +79,13 @@ private:
     QString count() { return part<QLabel>("Dashboard_FindCount")->text(); }
     QString currentMatch();
     void saveTo(const QString &file);
-    QTreeView *list() { return m_page->findChild<HistoryPopup *>()->view(); }
+    HistoryView *list() { return m_page->findChild<HistoryPopup *>()->view(); }
 
     QScopedPointer<CodeHistory> m_history;
+    QList<CodeName> m_names;
+    QScopedPointer<Favourites> m_favourites;
+    QScopedPointer<ChainRunner> m_chains;
+    QScopedPointer<WalkWatcher> m_walks;
     QScopedPointer<CodesPage> m_page;
     KeyboardHelper m_keyboard;
 };
@@ -80,11 +94,13 @@ void CodesPageTest::setUp()
 {
     CommandTest::setUp();
     m_history.reset(new CodeHistory(folder() + QLatin1String("/history")));
-    const auto names = [] {
-        return QList<CodeName>{{QLatin1String("*100#"), QLatin1String("Balance")},
-                               {QLatin1String("*7#"), QLatin1String("My own")}};
-    };
-    m_page.reset(new CodesPage({&plugin(), &monitor(), m_history.data(), names}));
+    m_names = {{QLatin1String("*100#"), QLatin1String("Balance")},
+               {QLatin1String("*7#"), QLatin1String("My own")}};
+    m_favourites.reset(new Favourites(QString()));
+    m_chains.reset(new ChainRunner(&monitor()));
+    m_walks.reset(new WalkWatcher(&monitor()));
+    m_page.reset(new CodesPage({&plugin(), &monitor(), m_history.data(), [this] { return m_names; },
+                                m_chains.data(), m_walks.data(), m_favourites.data()}));
     m_page->resize(900, 700);
     m_page->show();
     m_page->showWindow(true);
@@ -97,6 +113,9 @@ void CodesPageTest::tearDown()
 {
     plugin().shutDown();
     m_page.reset();
+    m_walks.reset();
+    m_chains.reset();
+    m_favourites.reset();
     m_history.reset();
     CommandTest::tearDown();
 }
@@ -278,7 +297,7 @@ void CodesPageTest::theHistoryOpensInTheEmptyField()
     QTest::keyClick(edit, Qt::Key_Down);
     QVERIFY(list()->isVisible());
     const QAbstractItemModel *model = list()->model();
-    QCOMPARE(model->rowCount(), 4); // the sent code, two named codes, and the footer
+    QCOMPARE(model->rowCount(), 3); // the sent code and two named codes
     QVERIFY(model->index(0, 0).data().toString().contains(QLatin1String("*104#")));
     QCOMPARE(model->index(1, 1).data().toString(), QLatin1String("Balance"));
     QTest::keyClick(list(), Qt::Key_Down);
@@ -288,7 +307,146 @@ void CodesPageTest::theHistoryOpensInTheEmptyField()
     QVERIFY(!list()->isVisible() && fakeSdkCommands().empty());
 }
 
-// Tests that pressing Return sends the typed text if no row in the list is selected.
+void CodesPageTest::theFooterOfTheHistoryStays()
+{
+    for (int i = 0; i < 30; ++i)
+        m_history->add(QString::fromLatin1("*1%1#").arg(i));
+    codes().openHistory();
+    const QPushButton *button = list()->button();
+    QVERIFY(button->isVisible());
+    const QPoint before = button->mapTo(list(), QPoint());
+    list()->scrollToBottom();
+    QCOMPARE(button->mapTo(list(), QPoint()), before);
+    QVERIFY(list()->rect().contains(QRect(before, button->size())));
+    QVERIFY(list()->viewport()->geometry().bottom() < before.y());
+    const int rows =
+        list()->viewport()->height() / list()->visualRect(list()->model()->index(0, 0)).height();
+    QVERIFY(rows >= 8); // the footer takes no row away
+    list()->button()->click();
+    QVERIFY(m_history->codes().isEmpty() && !list()->isVisible());
+}
+
+void CodesPageTest::theHistoryIsDeletedWithTheKeyboard()
+{
+    m_history->add(QLatin1String("*104#"));
+    codes().openHistory();
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(list(), Qt::Key_Down);
+    QVERIFY(list()->isButtonCurrent());
+    QTest::keyClick(list(), Qt::Key_Up);
+    QVERIFY(!list()->isButtonCurrent());
+    QCOMPARE(list()->currentIndex().row(), 2);
+    QTest::keyClick(list(), Qt::Key_Down);
+    QTest::keyClick(list(), Qt::Key_Return);
+    settle();
+    QVERIFY(m_history->codes().isEmpty());
+    QVERIFY(fakeSdkCommands().empty() && general().commandEdit()->text().isEmpty());
+}
+
+void CodesPageTest::anEmptyHistoryOpens()
+{
+    m_names.clear();
+    codes().openHistory();
+    QVERIFY(list()->isVisible() && list()->button()->isHidden());
+    QCOMPARE(list()->model()->rowCount(), 1);
+    QCOMPARE(list()->model()->index(0, 1).data().toString(), QLatin1String("No code was sent yet"));
+    QTest::keyClick(list(), Qt::Key_Return);
+    settle();
+    QVERIFY(fakeSdkCommands().empty() && general().commandEdit()->text().isEmpty());
+}
+
+void CodesPageTest::aChainIsInTheHistory()
+{
+    QVERIFY(m_favourites->keep({"Pack", "*123#", {{"2", "Two"}}}));
+    fakeSdkScript({fakeReply(u"Menu\n1 One\n2 Two", 1), fakeReply(u"Done")});
+    codes().openHistory();
+    const QAbstractItemModel *model = list()->model();
+    QCOMPARE(model->rowCount(), 3);
+    QCOMPARE(model->index(2, 1).data().toString(), QLatin1String("Pack"));
+    QVERIFY(model->index(2, 0).data().toString().contains(QString::fromUtf8("*123# › 2")));
+    QTest::keyClick(list(), Qt::Key_Down);
+    QTest::keyClick(list(), Qt::Key_Down);
+    QTest::keyClick(list(), Qt::Key_Return);
+    for (int i = 0; i < 3; ++i)
+        settle();
+    QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*123#", u"2"}));
+    QTest::keyClicks(general().commandEdit(), QLatin1String("pa")); // a name can be typed
+    QCOMPARE(list()->model()->rowCount(), 1);
+}
+
+void CodesPageTest::aWalkIsKept()
+{
+    const auto keep = [this] {
+        return codes().strip()->findChild<QPushButton *>(QLatin1String("Dashboard_KeepWalk"));
+    };
+    fakeSdkScript({fakeReply(u"Menu\n1 One\n2 Two", 1), fakeReply(u"Done"), fakeReply(u"Balance")});
+    monitor().send(QLatin1String("*123#"));
+    settle();
+    QVERIFY(!keep()); // while the menu is open
+    monitor().answer(QLatin1String("2"));
+    settle();
+    QVERIFY(keep());
+    keep()->click();
+    ChainDialog *dialog = codes().findChild<ChainDialog *>();
+    QVERIFY(dialog && dialog->isVisible());
+    QCOMPARE(dialog->name(), QLatin1String("Two"));
+    dialog->setName(QLatin1String("Every month"));
+    dialog->accept();
+    settle();
+    QCOMPARE(m_favourites->chain(QLatin1String("Every month")).keys(),
+             std::string("*123# \xe2\x80\xba 2"));
+    QVERIFY(!keep()); // it is kept
+    QVERIFY(m_favourites->remove(QLatin1String("Every month")));
+    settle();
+    QVERIFY(keep());
+    monitor().send(QLatin1String("*100#"));
+    settle();
+    QVERIFY(!keep());
+}
+
+void CodesPageTest::aStoppedChainShowsWhyAndLeavesTheMenu()
+{
+    QVERIFY(m_favourites->keep({"Pack", "*123#", {{"2", "Two"}}}));
+    fakeSdkScript(
+        {fakeReply(u"Menu\n1 One\n2 Three", 1), fakeReply(u"Done"), fakeReply(u"Balance")});
+    codes().runChain(QLatin1String("Pack"));
+    for (int i = 0; i < 3; ++i)
+        settle();
+    QString title = codes().strip()->title();
+    QCOMPARE(title.remove(QChar(0x2068)).remove(QChar(0x2069)),
+             QLatin1String("Pack stopped at step 2 of 2"));
+    QVERIFY(codes().strip()->text().contains(QLatin1String("Three")));
+    QCOMPARE(codes().strip()->findChildren<QPushButton *>(QLatin1String("Dashboard_Choice")).size(),
+             2);
+    codes().strip()->findChild<QPushButton *>(QLatin1String("Dashboard_WhyStopped"))->click();
+    QMessageBox *box = codes().findChild<QMessageBox *>(QLatin1String("Dashboard_ChainBox"));
+    QVERIFY(box && box->isVisible() && box->text() == codes().strip()->text());
+    box->close();
+    shortcut(QKeySequence(QLatin1String("Alt+1")))->trigger(); // the user goes on
+    settle();
+    QCOMPARE(codes().strip()->title(), QLatin1String("Ready"));
+    QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*123#", u"1"}));
+    QVERIFY(m_favourites->keep({"Gone", "*100#", {{"2", "Two"}}}));
+    codes().runChain(QLatin1String("Gone"));
+    for (int i = 0; i < 3; ++i)
+        settle();
+    QVERIFY(codes().strip()->title().contains(QLatin1String("stopped")));
+    codes().strip()->findChild<QPushButton *>(QLatin1String("Dashboard_DismissFailure"))->click();
+    QCOMPARE(codes().strip()->title(), QLatin1String("Ready"));
+}
+
+void CodesPageTest::aBlockedPageRunsNoChain()
+{
+    QVERIFY(m_favourites->keep({"Pack", "*123#", {{"2", "Two"}}}));
+    setDevice(TKSV_DEVICE_SIM_LOCKED);
+    settle();
+    codes().runChain(QLatin1String("Pack"));
+    codes().runChain(QLatin1String("No such chain"));
+    settle();
+    QVERIFY(fakeSdkCommands().empty());
+}
+
+// The list has opened while the user was typing, and no row of it is chosen.
 void CodesPageTest::returnSendsWhatIsTyped()
 {
     QLineEdit *edit = general().commandEdit();

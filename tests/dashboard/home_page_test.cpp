@@ -16,6 +16,7 @@
 #include "pages/AppActions.h"
 #include "pages/BalanceCard.h"
 #include "pages/BalanceChart.h"
+#include "pages/ChainDialog.h"
 #include "pages/FavouriteDialog.h"
 #include "pages/FavouriteGrid.h"
 #include "pages/HomePage.h"
@@ -35,6 +36,7 @@ const int NARROW_WIDTH = 360;
 struct RecordedActions : AppActions {
     void showPage(PageId) override { done << QLatin1String("page"); }
     void sendCode(const QString &code) override { done << QLatin1String("send ") + code; }
+    void runChain(const QString &name) override { done << QLatin1String("chain ") + name; }
     void typeCode(const QString &code) override { done << QLatin1String("type ") + code; }
     void topUp() override { done << QLatin1String("top up"); }
     void openAccountWindow() override { done << QLatin1String("account"); }
@@ -86,6 +88,8 @@ private slots:
     void aFavouriteAsksForItsNumber();
     void arrowsMoveBetweenFavourites();
     void favouritesAreSelectedAndKept();
+    void aChainIsAFavourite();
+    void chainsAreRenamedAndDeleted();
     void withoutADeviceTheLastBalanceIsKnown();
     void aLowBalanceIsMarked();
     void theMessageIsOpened();
@@ -301,7 +305,10 @@ void HomePageTest::favouritesSendTheirCode()
 
 void HomePageTest::aFavouriteAsksForItsNumber()
 {
-    m_favourites->select({QLatin1String("*140*%s#")});
+    NamedCode callMe;
+    callMe.name = QLatin1String("Call me");
+    callMe.code = QLatin1String("*140*%s#");
+    m_favourites->select({callMe});
     open();
     m_page->findChildren<FavouriteButton *>().first()->click();
     QVERIFY(m_actions.done.isEmpty());
@@ -331,7 +338,7 @@ void HomePageTest::arrowsMoveBetweenFavourites()
 
 void HomePageTest::favouritesAreSelectedAndKept()
 {
-    const QString file = folder() + QLatin1String("/favourites.ini");
+    const QString file = folder() + QLatin1String("/favourites.json");
     {
         Favourites favourites(file);
         favourites.setNetwork(QLatin1String("00101"));
@@ -346,11 +353,10 @@ void HomePageTest::favouritesAreSelectedAndKept()
         }
         for (int i = 5; i < 7; ++i)
             list->item(i)->setCheckState(Qt::Checked);
-        // No further code can be selected, because six are already selected.
-        QVERIFY(!(list->item(7)->flags() & Qt::ItemIsUserCheckable));
-        QCOMPARE(dialog.codes().size(), Favourites::MOST);
-        QCOMPARE(dialog.codes().at(0), QLatin1String("*123#"));
-        QVERIFY(favourites.select(dialog.codes()));
+        QVERIFY(!(list->item(7)->flags() & Qt::ItemIsUserCheckable)); // six are selected
+        QCOMPARE(dialog.selected().size(), Favourites::MOST);
+        QCOMPARE(dialog.selected().at(0).code, QLatin1String("*123#"));
+        QVERIFY(favourites.select(dialog.selected()));
     }
     Favourites favourites(file);
     favourites.setNetwork(QLatin1String("00101"));
@@ -361,6 +367,53 @@ void HomePageTest::favouritesAreSelectedAndKept()
     QCOMPARE(favourites.among(m_codes).size(), 5);
     QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther),
              QFile::Permissions());
+}
+
+void HomePageTest::aChainIsAFavourite()
+{
+    open();
+    QVERIFY(m_favourites->keep({"Pack", "*123#", {{"2", "Internet"}, {"1", "1 GB"}}}));
+    drainEvents();
+    const QList<FavouriteButton *> buttons = m_page->findChildren<FavouriteButton *>();
+    QCOMPARE(buttons.size(), Favourites::MOST); // five codes and the chain
+    QCOMPARE(buttons.last()->accessibleName(), QLatin1String("Pack"));
+    QCOMPARE(buttons.last()->accessibleDescription(), QString::fromUtf8("*123# › 2 › 1"));
+    buttons.last()->click();
+    QCOMPARE(m_actions.done, QStringList(QLatin1String("chain Pack")));
+}
+
+void HomePageTest::chainsAreRenamedAndDeleted()
+{
+    QVERIFY(m_favourites->keep({"Pack", "*123#", {{"2", "Internet"}}}));
+    QVERIFY(m_favourites->keep({"Other", "*123#", {{"1", "Account"}}}));
+    open();
+    m_page->findChild<QPushButton *>(QLatin1String("Dashboard_EditFavouritesButton"))->click();
+    FavouriteDialog *dialog = m_page->findChild<FavouriteDialog *>();
+    QListWidget *list = dialog->findChild<QListWidget *>();
+    const auto button = [dialog](const char *name) {
+        return dialog->findChild<QPushButton *>(QLatin1String(name));
+    };
+    list->setCurrentRow(0); // a code
+    QVERIFY(!button("Dashboard_RenameChain")->isEnabled());
+    QVERIFY(!button("Dashboard_DeleteChain")->isEnabled());
+    list->setCurrentRow(
+        list->findItems(QLatin1String("Pack"), Qt::MatchStartsWith).size() == 1
+            ? list->row(list->findItems(QLatin1String("Pack"), Qt::MatchStartsWith).first())
+            : -1);
+    button("Dashboard_RenameChain")->click();
+    ChainDialog *naming = dialog->findChild<ChainDialog *>();
+    naming->setName(QLatin1String("OTHER")); // in use
+    QVERIFY(!naming->findChild<QPushButton *>(QLatin1String("Dashboard_KeepChain"))->isEnabled());
+    naming->setName(QLatin1String("1 GB"));
+    naming->accept();
+    list->setCurrentItem(list->findItems(QLatin1String("Other"), Qt::MatchStartsWith).first());
+    button("Dashboard_DeleteChain")->click();
+    QCOMPARE(m_favourites->chains().size(), 2); // nothing is stored before Save
+    dialog->accept();
+    drainEvents();
+    QCOMPARE(m_favourites->chains().size(), 1);
+    QCOMPARE(m_favourites->chains().first().name, QLatin1String("1 GB"));
+    QCOMPARE(m_favourites->among(m_codes).last().name, QLatin1String("1 GB"));
 }
 
 void HomePageTest::withoutADeviceTheLastBalanceIsKnown()

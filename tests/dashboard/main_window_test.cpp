@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -7,15 +8,18 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "account/Favourites.h"
 #include "base/DashboardText.h"
 #include "device/DashboardSettings.h"
 #include "device/Scenarios.h"
 #include "ExtendDialog.h"
 #include "HostState.h"
 #include "Languages.h"
+#include "pages/FavouriteGrid.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
+#include "window/AppController.h"
 #include "window/Banners.h"
 #include "window/MainWindow.h"
 
@@ -45,6 +49,8 @@ private slots:
     void thePageFollowsTheWindowsSize();
     void thePageCanBeHiddenAndShownAgain();
     void aCommandOfThePageIsAnswered();
+    void theNumbersOfTheOperatorsCodesAreHidden();
+    void aChainOfTheFirstPageIsRun();
     void theFrameOpensOverTheWindow();
     void theActionsWaitForThePlugin();
     void aMissingPluginIsSaidInThePage();
@@ -157,6 +163,40 @@ void MainWindowTest::aCommandOfThePageIsAnswered()
     QVERIFY(!page().send(QLatin1String("*100#")));
     QTRY_VERIFY(!page().isWaiting());
     QCOMPARE(page().lastReceived(), QLatin1String("Your balance is 7.00 EUR."));
+}
+
+void MainWindowTest::theNumbersOfTheOperatorsCodesAreHidden()
+{
+    const QStringList templates = m_window->controller().monitor().templates();
+    QVERIFY(templates.contains(QLatin1String("*140*%s#"))); // a profile
+    QVERIFY(templates.contains(QLatin1String("*101*%s#"))); // the account window
+    QVERIFY2(templates.contains(QLatin1String("*106*%s#")), // a service
+             qPrintable(templates.join(QLatin1Char(' '))));
+    QVERIFY(!templates.contains(QLatin1String("WEATHER %s"))); // a short message
+}
+
+void MainWindowTest::aChainOfTheFirstPageIsRun()
+{
+    QVERIFY(QDir().mkpath(QFileInfo(Favourites::userFile()).path()));
+    QFile file(Favourites::userFile());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("{\"version\":1,\"networks\":{\"unknown\":{\"chains\":[{\"name\":\"Way\",\"code\":"
+               "\"*123#\",\"steps\":[{\"key\":\"2\",\"text\":\"Second\"}]}]}}}");
+    file.close();
+    m_window->showPage(PageId::Home);
+    FavouriteButton *chain = nullptr;
+    QTRY_VERIFY(!m_window->findChildren<FavouriteButton *>().isEmpty());
+    for (FavouriteButton *button : m_window->findChildren<FavouriteButton *>()) {
+        if (button->accessibleName() == QLatin1String("Way"))
+            chain = button;
+    }
+    QVERIFY(chain);
+    chain->click();
+    QVERIFY(button("Dashboard_NavCodes")->isChecked());
+    const CommandMonitor &monitor = m_window->controller().monitor();
+    QTRY_VERIFY(monitor.state().menuText.contains(QLatin1String("Deeper")));
+    QVERIFY(page().transcript().contains(QLatin1String("Sent: 2")));
+    QVERIFY(file.remove());
 }
 
 void MainWindowTest::theFrameOpensOverTheWindow()

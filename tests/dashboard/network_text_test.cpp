@@ -199,9 +199,11 @@ void NetworkTextTest::deletingAllLeavesNoFile()
     entry.code = QLatin1String("*100#");
     entry.text = QLatin1String("Balance: 12.50 EUR");
     window().findChild<HomeSetup *>()->store().add(entry);
-    QVERIFY(Favourites(Favourites::userFile()).select({QLatin1String("*100#")}));
+    NamedCode balance;
+    balance.code = QLatin1String("*100#");
+    QVERIFY(Favourites(Favourites::userFile()).select({balance}));
     CodeHistory(CodeHistory::fileOfUser()).add(QLatin1String("*100#"));
-    const QStringList all = {QLatin1String("code-history"), QLatin1String("favourites.ini"),
+    const QStringList all = {QLatin1String("code-history"), QLatin1String("favourites.json"),
                              QLatin1String("messages.sqlite"), QLatin1String("sim-salt"),
                              QLatin1String("account/replies.sqlite")};
     QCOMPARE(keptFiles(), all);

@@ -134,7 +134,9 @@ void PrivacyTest::useEverything()
     say(MISSED_CALL, false);
     say("Call +999551846203?\n1 Yes", true);
     send("1", u"");
-    QVERIFY(Favourites(Favourites::userFile()).select({QLatin1String("*101*%s#")}));
+    NamedCode topUp;
+    topUp.code = QLatin1String("*101*%s#");
+    QVERIFY(Favourites(Favourites::userFile()).select({topUp}));
     for (const PageId page : {PageId::Codes, PageId::Messages, PageId::Settings, PageId::Home})
         window().showPage(page);
     drainEvents();

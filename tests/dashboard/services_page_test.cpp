@@ -26,6 +26,7 @@ class RecordedActions : public AppActions
 public:
     void showPage(PageId) override {}
     void sendCode(const QString &) override {}
+    void runChain(const QString &) override {}
     void typeCode(const QString &) override {}
     void topUp() override {}
     void openAccountWindow() override {}

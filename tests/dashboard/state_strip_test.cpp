@@ -99,6 +99,7 @@ private slots:
     void theFormerNetworksAreOffered();
     void theNarrowRowHasRoomForTheNetworks();
     void aChoiceIsAnswered();
+    void aStoppedChainKeepsTheChoices();
     void aTextWithoutChoicesIsShown();
     void aFailureOffersWhatHelps();
     void theNarrowFormSaysTheOutcomeFirst();
@@ -346,6 +347,33 @@ void StateStripTest::aChoiceIsAnswered()
     QSignalSpy ended(&strip(), &StateStrip::menuEnded);
     part<QPushButton>("Dashboard_EndMenu")->click();
     QCOMPARE(ended.count(), 1);
+}
+
+void StateStripTest::aStoppedChainKeepsTheChoices()
+{
+    ChainState chain;
+    chain.kind = ChainState::Kind::Stopped;
+    chain.title = QLatin1String("Pack stopped");
+    chain.text = QLatin1String("Why");
+    strip().setForm(Form::Narrow);
+    strip().resize(310, 116);
+    const int height = strip().height();
+    CommandState state;
+    state.kind = Kind::MenuOpen;
+    state.choices = {{QLatin1String("1"), QString(80, QLatin1Char('W'))},
+                     {QLatin1String("2"), QString(80, QLatin1Char('M'))}};
+    show(state);
+    strip().setChain(chain);
+    drainEvents();
+    QCOMPARE(strip().title(), chain.title);
+    QCOMPARE(strip().height(), height);
+    QVERIFY(part<QPushButton>("Dashboard_Choice")); // elided, beside the button with the reason
+    QVERIFY(part<QPushButton>("Dashboard_WhyStopped"));
+    QVERIFY(part<QPushButton>("Dashboard_EndMenu"));
+    state.kind = Kind::Waiting;
+    show(state);
+    QCOMPARE(strip().title(), state.title); // the message is about the reply before
+    QVERIFY(!part<QPushButton>("Dashboard_WhyStopped"));
 }
 
 void StateStripTest::aTextWithoutChoicesIsShown()

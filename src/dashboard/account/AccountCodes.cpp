@@ -175,6 +175,16 @@ CodeFiles CodeFiles::inUse()
     return files;
 }
 
+QStringList readCodesWithPlace(const CodeFiles &files)
+{
+    QStringList codes;
+    for (const NamedCode &named : readAccountCodes(files, PaidType::Unknown).all)
+        codes << named.code;
+    for (const ConfigCharge &charge : readConfigurationFile(files.configuration).charge)
+        codes << charge.command.trimmed();
+    return codes.filter(INPUT_PLACEHOLDER);
+}
+
 AccountCodes readAccountCodes(const CodeFiles &files, PaidType type)
 {
     AccountCodes codes;

@@ -2,7 +2,7 @@
 #define ACCOUNTCODES_H
 
 #include <QList>
-#include <QString>
+#include <QStringList>
 
 #include "sim/PaidType.h"
 
@@ -28,14 +28,16 @@ enum class CodeKind {
 /// Returns the name of the icon for codes of this kind.
 const char *codeIcon(CodeKind kind);
 
-/** A code and its name, from the operator's profiles or from the user's own profiles. */
+/** A code with a name, from the operator's files or from the user's file, or a kept chain. */
 struct NamedCode {
-    QString name; // translated if the profile has a text key
-    QString code; // may contain a placeholder for a number
+    QString name; // in the user's language if the file has a text key
+    QString code; // may contain a place for a number
+    QString keys; // of a chain, such as "*123# › 2 › 1"; otherwise empty
     CodeKind kind = CodeKind::Other;
     bool isOwn = false; // from the user's own profiles
 
     bool takesNumber() const;
+    bool isChain() const { return !keys.isEmpty(); }
 };
 
 /** The codes that query account data, and a list of all codes with their names. */
@@ -63,9 +65,11 @@ struct CodeFiles {
     static CodeFiles inUse();
 };
 
-/// Reads the codes. The account codes are those of the account window for this type of contract, or
-/// those of the profiles if the type is unknown. A code that requires a number is not used as an
-/// account code.
+/// Returns the codes with a place for a number: those with names, and those of the account windows.
+QStringList readCodesWithPlace(const CodeFiles &files);
+
+/// Reads the codes. The account codes are those of this type of contract. If the type is unknown,
+/// they are taken from the profiles. A code that needs a number is not an account code.
 AccountCodes readAccountCodes(const CodeFiles &files, PaidType type);
 
 } // namespace Dashboard

@@ -18,7 +18,9 @@ public:
     virtual void showPage(PageId page) = 0;
     /// Opens the page Codes and sends the code.
     virtual void sendCode(const QString &code) = 0;
-    /// Opens the page Codes and enters the code into the command field without sending it.
+    /// Shows the page of codes and runs the chain.
+    virtual void runChain(const QString &name) = 0;
+    /// Shows the page of codes and types the code without sending it.
     virtual void typeCode(const QString &code) = 0;
     /// Opens the dialog, window or field in which the user can top up the account.
     virtual void topUp() = 0;

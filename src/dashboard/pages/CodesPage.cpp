@@ -11,9 +11,11 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include "account/Favourites.h"
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "base/PrivateFile.h"
+#include "ChainDialog.h"
 #include "device/DeviceStatus.h"
 #include "device/ModeChoice.h"
 #include "FindBar.h"
@@ -23,6 +25,7 @@
 #include "look/Look.h"
 #include "plugin/CodeForms.h"
 #include "plugin/CodeHistory.h"
+#include "plugin/WalkWatcher.h"
 #include "TopUpSheet.h"
 
 namespace Dashboard
@@ -43,6 +46,16 @@ QString fullName(const QPushButton *button)
     return isElided && isPlain && !button->toolTip().isEmpty() ? button->toolTip() : button->text();
 }
 
+/// Returns what the walk sends, such as "*123# › 2 Internet › 1 1 GB".
+QString walkText(const Chains::Chain &walk)
+{
+    QString text = isolated(QString::fromStdString(walk.code));
+    for (const Chains::Choice &step : walk.steps)
+        text += QString::fromUtf8(" › ") + isolated(QString::fromStdString(step.key)) +
+                QLatin1Char(' ') + isolatedWords(QString::fromStdString(step.text));
+    return text;
+}
+
 QString menuText(QString name)
 {
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -54,9 +67,11 @@ CodesPage::CodesPage(const CodesParts &parts, QWidget *parent)
     : Page("Dashboard_CodesPage", parent), m_parts(parts), m_strip(new StateStrip),
       m_area(new GeneralArea(parts.plugin)),
       m_find(new FindBar([this] { return general().history(); }, this)),
-      m_historyPopup(new HistoryPopup(parts.history, parts.names, this)), m_card(makeCard(this)),
-      m_narrowButtons(new QWidget(this)), m_codesButton(nullptr), m_topUpButton(nullptr),
-      m_narrowRow(new QHBoxLayout(m_narrowButtons)), m_column(new QVBoxLayout(this))
+      m_historyPopup(new HistoryPopup(
+          parts.history, parts.names, [this] { return chainNames(); }, this)),
+      m_card(makeCard(this)), m_narrowButtons(new QWidget(this)), m_codesButton(nullptr),
+      m_topUpButton(nullptr), m_narrowRow(new QHBoxLayout(m_narrowButtons)),
+      m_column(new QVBoxLayout(this))
 {
     m_situation.canSend = true;
     makeNarrowButtons();
@@ -64,6 +79,7 @@ CodesPage::CodesPage(const CodesParts &parts, QWidget *parent)
     makeShortcuts();
     followStrip();
     followModes();
+    followChains();
     connect(parts.commands, &CommandMonitor::changed, this, &CodesPage::onCommandChanged);
     connect(parts.commands, &CommandMonitor::ticked, m_strip, &StateStrip::setSeconds);
     connect(parts.commands, &CommandMonitor::sent, parts.history, &CodeHistory::add);
@@ -72,6 +88,8 @@ CodesPage::CodesPage(const CodesParts &parts, QWidget *parent)
         QMetaObject::invokeMethod(
             this, [this, code] { typeCode(code); }, Qt::QueuedConnection);
     });
+    connect(m_historyPopup, &HistoryPopup::chainChosen, this, &CodesPage::runChain,
+            Qt::QueuedConnection);
     connect(&Look::instance(), &Look::changed, this, [this] { setForm(m_form); });
     retranslate();
     onCommandChanged();
@@ -255,6 +273,27 @@ void CodesPage::followModes()
     show();
 }
 
+void CodesPage::followChains()
+{
+    if (!m_parts.favourites)
+        return;
+    connect(m_parts.chains, &ChainRunner::changed, this,
+            [this] { m_strip->setChain(m_parts.chains->state()); });
+    connect(m_parts.chains, &ChainRunner::changed, this, &CodesPage::updateKeep);
+    connect(m_parts.walks, &WalkWatcher::changed, this, &CodesPage::updateKeep);
+    connect(m_parts.favourites, &Favourites::changed, this, &CodesPage::updateKeep);
+    connect(m_strip, &StateStrip::chainDismissed, m_parts.chains, &ChainRunner::dismiss);
+    connect(m_strip, &StateStrip::keepRequested, this, &CodesPage::keepWalk);
+}
+
+void CodesPage::updateKeep()
+{
+    const Chains::Chain walk = m_parts.walks->walk();
+    m_strip->setKeepOffered(!walk.steps.empty() && !m_parts.chains->isRunning() &&
+                            !m_parts.chains->state().hasStopped() &&
+                            !m_parts.favourites->isKept(walk));
+}
+
 void CodesPage::onCommandChanged()
 {
     const CommandState &state = m_parts.commands->state();
@@ -283,10 +322,63 @@ void CodesPage::refreshNames()
     updateRecent();
 }
 
-/// Shows all details of the failure. The dialog does not run a nested event loop, because the
-/// device may be lost while it is open.
+// ---- chains --------------------------------------------------------------------------------
+
+void CodesPage::runChain(const QString &name)
+{
+    const Chains::Chain chain =
+        m_parts.favourites ? m_parts.favourites->chain(name) : Chains::Chain();
+    if (!chain.steps.empty())
+        m_parts.chains->run(chain);
+}
+
+/// Shows the complete reason, which the strip may have elided.
+void CodesPage::showStop(const ChainState &chain)
+{
+    QMessageBox *box = new QMessageBox(QMessageBox::Information, chain.title, chain.text,
+                                       QMessageBox::NoButton, this);
+    box->setObjectName(QLatin1String("Dashboard_ChainBox"));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->addButton(dashboardText("SHEET_CLOSE"), QMessageBox::RejectRole);
+    box->open();
+}
+
+/// Asks for the name under which to keep the walk. The suggested name is that of the last choice.
+void CodesPage::keepWalk()
+{
+    const Chains::Chain walk = m_parts.walks->walk();
+    if (walk.steps.empty())
+        return;
+    Favourites *favourites = m_parts.favourites;
+    ChainDialog *dialog = new ChainDialog(
+        walkText(walk), [favourites](const QString &name) { return favourites->isNameFree(name); },
+        this);
+    dialog->setName(QString::fromStdString(walk.steps.back().text));
+    connect(dialog, &QDialog::accepted, this, [favourites, dialog, walk] {
+        Chains::Chain chain = walk;
+        chain.name = dialog->name().toStdString();
+        favourites->keep(chain);
+    });
+    dialog->open();
+}
+
+QList<CodeName> CodesPage::chainNames() const
+{
+    QList<CodeName> names;
+    if (!m_parts.favourites)
+        return names;
+    for (const NamedCode &chain : m_parts.favourites->chains())
+        names << CodeName{chain.keys, chain.name};
+    return names;
+}
+
+/// Shows every word about the failure. The dialog does not block, because the device may be lost
+/// while it is open.
 void CodesPage::showDetails()
 {
+    if (m_parts.favourites && m_parts.chains->state().hasStopped())
+        return showStop(m_parts.chains->state());
     const CommandState &state = m_parts.commands->state();
     QMessageBox *box = new QMessageBox(QMessageBox::Information, state.title,
                                        state.text + QLatin1String("\n\n") + state.details,
@@ -359,6 +451,10 @@ void CodesPage::showCodesSheet()
         const QString code = named.code;
         if (!listed.contains(named.name))
             sheet->addAction(menuText(named.name), this, [this, code] { useCode(code); });
+    }
+    for (const CodeName &chain : chainNames()) {
+        const QString name = chain.name;
+        sheet->addAction(menuText(name), this, [this, name] { runChain(name); });
     }
     sheet->popup(m_codesButton->mapToGlobal(QPoint(0, m_codesButton->height())));
 }

@@ -14,12 +14,15 @@ class QPushButton;
 namespace Dashboard
 {
 
+class ChainRunner;
 class CodeHistory;
+class Favourites;
 class FindBar;
 class GeneralArea;
 class HistoryPopup;
 class LoadedPlugin;
 class ModeChoice;
+class WalkWatcher;
 
 /** The objects that CodesPage uses. All of them must outlive the page. */
 struct CodesParts {
@@ -28,6 +31,9 @@ struct CodesParts {
     CodeHistory *history;
     std::function<QList<CodeName>()> names; // the codes of the operator and of the user
     ModeChoice *modes = nullptr;            // of the modem; null if the modem has no choice
+    ChainRunner *chains = nullptr;
+    WalkWatcher *walks = nullptr;
+    Favourites *favourites = nullptr; // may be null in tests; then, no chain is offered
 };
 
 /**
@@ -68,7 +74,9 @@ public slots:
     void useCode(const QString &code);
     /// Enters the code into the command field without sending it.
     void typeCode(const QString &code);
-    /// Cancels the command in flight or ends the open menu.
+    /// Runs the chain with this name, if a code can be sent now.
+    void runChain(const QString &name);
+    /// Cancels the command on its way, or ends the open menu.
     void stop();
     void answerNumber(int position);
     void openHistory();
@@ -103,6 +111,11 @@ private:
     void watchTranscript();
     void updateReply();
     void saveTo(const QString &file);
+    void followChains();
+    void updateKeep();
+    void keepWalk();
+    void showStop(const ChainState &chain);
+    QList<CodeName> chainNames() const;
     void showDetails();
     void showCodesSheet();
     void showTopUpSheet();

@@ -8,6 +8,7 @@
 
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
+#include "ChainDialog.h"
 #include "look/Controls.h"
 #include "look/Look.h"
 #include "UssdCode.h"
@@ -19,12 +20,28 @@ namespace
 {
 
 const int CODE = Qt::UserRole;
-const int LEAST_HEIGHT = 340; // the minimum height of the dialog in pixels at 100 % text size
+const int NAME = Qt::UserRole + 1;
+const int KEYS = Qt::UserRole + 2; // of a chain
+const int EARLIER_NAME = Qt::UserRole + 3;
+const int LEAST_HEIGHT = 340; // of the dialog, in pixels at 100 %
 const int LEAST_WIDTH = 320;
 
 bool isChecked(const QListWidgetItem *item)
 {
     return item->checkState() == Qt::Checked;
+}
+
+QString idOf(const NamedCode &code)
+{
+    return code.isChain() ? code.name + QLatin1Char('\n') : code.code;
+}
+
+void setName(QListWidgetItem *item, const QString &name)
+{
+    const QString keys = item->data(KEYS).toString();
+    item->setData(NAME, name);
+    item->setText(name + QLatin1String("  ") +
+                  isolated(keys.isEmpty() ? item->data(CODE).toString() : keys));
 }
 
 QHBoxLayout *buttonRow()
@@ -39,7 +56,7 @@ QHBoxLayout *buttonRow()
 FavouriteDialog::FavouriteDialog(const QList<NamedCode> &all, const QList<NamedCode> &selected,
                                  int most, QWidget *parent)
     : QDialog(parent), m_most(most), m_list(new QListWidget(this)), m_up(makeButton("", this)),
-      m_down(makeButton("", this))
+      m_down(makeButton("", this)), m_rename(makeButton("", this)), m_remove(makeButton("", this))
 {
     setObjectName(QLatin1String("Dashboard_FavouriteDialog"));
     setWindowTitle(dashboardText("HOME_FAVOURITES"));
@@ -48,18 +65,22 @@ FavouriteDialog::FavouriteDialog(const QList<NamedCode> &all, const QList<NamedC
     QStringList known;
     for (const NamedCode &code : selected) {
         addCode(code, true);
-        known << code.code;
+        known << idOf(code);
     }
     for (const NamedCode &code : all) {
-        if (!known.contains(code.code))
+        if (!known.contains(idOf(code)))
             addCode(code, false);
     }
-    m_up->setText(dashboardText("HOME_MOVE_UP"));
-    m_down->setText(dashboardText("HOME_MOVE_DOWN"));
-    connect(m_up, &QPushButton::clicked, this, [this] { move(-1); });
-    connect(m_down, &QPushButton::clicked, this, [this] { move(1); });
+    makeButtons();
     connect(m_list, &QListWidget::itemChanged, this, &FavouriteDialog::look);
     connect(m_list, &QListWidget::currentRowChanged, this, &FavouriteDialog::look);
+    resize(px(LEAST_WIDTH), px(LEAST_HEIGHT));
+    m_list->setCurrentRow(0);
+    look();
+}
+
+void FavouriteDialog::makeButtons()
+{
     QPushButton *save = makeButton("primary", this);
     QPushButton *cancel = makeButton("", this);
     save->setText(dashboardText("HOME_SAVE"));
@@ -68,33 +89,52 @@ FavouriteDialog::FavouriteDialog(const QList<NamedCode> &all, const QList<NamedC
     connect(save, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     QLabel *hint = makeLabel("muted", this);
-    hint->setText(dashboardText("HOME_FAVOURITES_HINT").arg(most));
+    hint->setText(dashboardText("HOME_FAVOURITES_HINT").arg(m_most));
     hint->setWordWrap(true);
     QVBoxLayout *column = new QVBoxLayout(this);
     column->addWidget(hint);
     column->addWidget(m_list, 1);
-    QHBoxLayout *moves = buttonRow();
-    moves->addWidget(m_up);
-    moves->addWidget(m_down);
-    moves->addStretch(1);
-    column->addLayout(moves);
+    column->addLayout(makeMoves());
+    QHBoxLayout *chains = buttonRow(); // beside the moves, they would be wider than a narrow window
+    chains->addWidget(m_rename);
+    chains->addWidget(m_remove);
+    chains->addStretch(1);
+    column->addLayout(chains);
     QHBoxLayout *ends = buttonRow();
     ends->addStretch(1);
     ends->addWidget(cancel);
     ends->addWidget(save);
     column->addLayout(ends);
-    resize(px(LEAST_WIDTH), px(LEAST_HEIGHT));
-    m_list->setCurrentRow(0);
-    look();
+}
+
+QHBoxLayout *FavouriteDialog::makeMoves()
+{
+    m_up->setText(dashboardText("HOME_MOVE_UP"));
+    m_down->setText(dashboardText("HOME_MOVE_DOWN"));
+    m_rename->setText(dashboardText("CHAIN_RENAME"));
+    m_remove->setText(dashboardText("CHAIN_DELETE"));
+    m_rename->setObjectName(QLatin1String("Dashboard_RenameChain"));
+    m_remove->setObjectName(QLatin1String("Dashboard_DeleteChain"));
+    connect(m_up, &QPushButton::clicked, this, [this] { move(-1); });
+    connect(m_down, &QPushButton::clicked, this, [this] { move(1); });
+    connect(m_rename, &QPushButton::clicked, this, &FavouriteDialog::renameChain);
+    connect(m_remove, &QPushButton::clicked, this, &FavouriteDialog::removeChain);
+    QHBoxLayout *moves = buttonRow();
+    for (QPushButton *button : {m_up, m_down})
+        moves->addWidget(button);
+    moves->addStretch(1);
+    return moves;
 }
 
 void FavouriteDialog::addCode(const NamedCode &code, bool isSelected)
 {
-    QListWidgetItem *item =
-        new QListWidgetItem(code.name + QLatin1String("  ") + isolated(code.code), m_list);
+    QListWidgetItem *item = new QListWidgetItem(m_list);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
                    Qt::ItemIsDragEnabled);
     item->setData(CODE, code.code);
+    item->setData(KEYS, code.keys);
+    item->setData(EARLIER_NAME, code.name);
+    setName(item, code.name);
     item->setCheckState(isSelected ? Qt::Checked : Qt::Unchecked);
 }
 
@@ -115,7 +155,9 @@ void FavouriteDialog::look()
     const int row = m_list->currentRow();
     m_up->setEnabled(row > 0);
     m_down->setEnabled(row >= 0 && row + 1 < m_list->count());
-    const bool isFull = codes().size() >= m_most;
+    m_rename->setEnabled(isChain(m_list->currentItem()));
+    m_remove->setEnabled(isChain(m_list->currentItem()));
+    const bool isFull = selected().size() >= m_most;
     const QSignalBlocker blocker(m_list);
     for (int i = 0; i < m_list->count(); ++i) {
         QListWidgetItem *item = m_list->item(i);
@@ -125,14 +167,73 @@ void FavouriteDialog::look()
     }
 }
 
-QStringList FavouriteDialog::codes() const
+QList<NamedCode> FavouriteDialog::selected() const
 {
-    QStringList codes;
+    QList<NamedCode> codes;
     for (int i = 0; i < m_list->count(); ++i) {
-        if (isChecked(m_list->item(i)))
-            codes << m_list->item(i)->data(CODE).toString();
+        const QListWidgetItem *item = m_list->item(i);
+        if (!isChecked(item))
+            continue;
+        NamedCode code;
+        code.name = item->data(NAME).toString();
+        code.code = item->data(CODE).toString();
+        code.keys = item->data(KEYS).toString();
+        codes << code;
     }
     return codes;
+}
+
+// ---- chains --------------------------------------------------------------------------------
+
+bool FavouriteDialog::isChain(const QListWidgetItem *item) const
+{
+    return item && !item->data(KEYS).toString().isEmpty();
+}
+
+bool FavouriteDialog::isNameFree(const QString &name) const
+{
+    for (int i = 0; i < m_list->count(); ++i) {
+        const QListWidgetItem *item = m_list->item(i);
+        const bool isSame = item->data(NAME).toString().compare(name, Qt::CaseInsensitive) == 0;
+        if (item != m_list->currentItem() && isSame)
+            return false;
+    }
+    return true;
+}
+
+void FavouriteDialog::renameChain()
+{
+    QListWidgetItem *item = m_list->currentItem();
+    if (!isChain(item))
+        return;
+    ChainDialog *dialog = new ChainDialog(
+        isolated(item->data(KEYS).toString()),
+        [this](const QString &name) { return isNameFree(name); }, this);
+    dialog->setWindowTitle(dashboardText("CHAIN_RENAME"));
+    dialog->setName(item->data(NAME).toString());
+    connect(dialog, &QDialog::accepted, this, [item, dialog] { setName(item, dialog->name()); });
+    dialog->open();
+}
+
+void FavouriteDialog::removeChain()
+{
+    if (!isChain(m_list->currentItem()))
+        return;
+    m_removed << m_list->currentItem()->data(EARLIER_NAME).toString();
+    delete m_list->takeItem(m_list->currentRow());
+    look();
+}
+
+QMap<QString, QString> FavouriteDialog::renamed() const
+{
+    QMap<QString, QString> names;
+    for (int i = 0; i < m_list->count(); ++i) {
+        const QListWidgetItem *item = m_list->item(i);
+        const QString earlier = item->data(EARLIER_NAME).toString();
+        if (isChain(item) && item->data(NAME).toString() != earlier)
+            names.insert(earlier, item->data(NAME).toString());
+    }
+    return names;
 }
 
 CodeNumberDialog::CodeNumberDialog(const NamedCode &code, QWidget *parent) : QDialog(parent)

@@ -2,18 +2,21 @@
 #define FAVOURITEDIALOG_H
 
 #include <QDialog>
+#include <QMap>
 
 #include "account/AccountCodes.h"
 
+class QHBoxLayout;
 class QListWidget;
+class QListWidgetItem;
 class QPushButton;
 
 namespace Dashboard
 {
 
 /**
- * The dialog in which the user selects and orders the favourites. Each code has a check box. The
- * order can be changed with the mouse or with buttons.
+ * Selects the favourites among all codes and chains, and their order. A check mark selects a code.
+ * Codes are moved with the mouse or with the buttons. Chains can be renamed and deleted.
  */
 class FavouriteDialog : public QDialog
 {
@@ -24,10 +27,20 @@ public:
     FavouriteDialog(const QList<NamedCode> &all, const QList<NamedCode> &selected, int most,
                     QWidget *parent = nullptr);
 
-    /// Returns the selected codes in their order.
-    QStringList codes() const;
+    /// Returns the selected codes and chains in their order.
+    QList<NamedCode> selected() const;
+    /// Returns the new names of chains by their present names.
+    QMap<QString, QString> renamed() const;
+    /// Returns the names of the chains to delete.
+    QStringList removed() const { return m_removed; }
 
 private:
+    void makeButtons();
+    QHBoxLayout *makeMoves();
+    bool isChain(const QListWidgetItem *item) const;
+    bool isNameFree(const QString &name) const;
+    void renameChain();
+    void removeChain();
     void addCode(const NamedCode &code, bool isSelected);
     void move(int rows);
     void look();
@@ -36,6 +49,9 @@ private:
     QListWidget *m_list;
     QPushButton *m_up;
     QPushButton *m_down;
+    QPushButton *m_rename;
+    QPushButton *m_remove;
+    QStringList m_removed;
 };
 
 /** The dialog in which the user enters the number for a code that contains a placeholder. */

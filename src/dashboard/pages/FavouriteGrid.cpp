@@ -29,7 +29,7 @@ const int CODE_SIZE = 13;
 
 QString shownCode(const NamedCode &code)
 {
-    QString shown = code.code;
+    QString shown = code.isChain() ? code.keys : code.code;
     return shown.replace(QLatin1String("%s"), QChar(0x2026));
 }
 
@@ -130,7 +130,7 @@ void FavouriteButton::paintCode(QPainter *painter)
     painter->setBrush(look.color(Token::AccentSoft));
     painter->drawEllipse(shownDisc);
     const int inset = (px(DISC) - px(ICON)) / 2;
-    Dashboard::icon(codeIcon(m_code.kind), Token::AccentText)
+    Dashboard::icon(m_code.isChain() ? "star" : codeIcon(m_code.kind), Token::AccentText)
         .paint(painter, shownDisc.adjusted(inset, inset, -inset, -inset));
     const QFont nameFont = textFont(NAME_SIZE, true);
     const QFont codeFont = textFont(CODE_SIZE, false);

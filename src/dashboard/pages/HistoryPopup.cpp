@@ -2,16 +2,16 @@
 
 #include <QCompleter>
 #include <QCoreApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
-#include <QTreeView>
 
 #include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
+#include "HistoryView.h"
+#include "look/Icons.h"
 #include "look/Look.h"
 #include "plugin/CodeHistory.h"
 
@@ -21,8 +21,9 @@ namespace Dashboard
 namespace
 {
 
-const int CODE_ROLE = Qt::UserRole + 1; // empty in the row that deletes the history
-const int COLUMNS = 3;                  // code, name, time
+const int CODE_ROLE = Qt::UserRole + 1;  // empty in the row that deletes the history
+const int CHAIN_ROLE = Qt::UserRole + 2; // the name of a chain; otherwise empty
+const int COLUMNS = 3;                   // code, name, time
 const int MOST_ROWS = 8;
 
 QString timeText(const QDateTime &utc)
@@ -58,17 +59,12 @@ bool isMove(int key)
 
 } // namespace
 
-HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, QObject *parent)
-    : QObject(parent), m_history(history), m_names(names),
-      m_model(new QStandardItemModel(0, COLUMNS, this)), m_view(new QTreeView),
+HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, const Names &chains,
+                           QObject *parent)
+    : QObject(parent), m_history(history), m_names(names), m_chains(chains),
+      m_model(new QStandardItemModel(0, COLUMNS, this)), m_view(new HistoryView),
       m_completer(new QCompleter(m_model, this))
 {
-    m_view->setObjectName(QLatin1String("Dashboard_HistoryList"));
-    m_view->setRootIsDecorated(false);
-    m_view->setHeaderHidden(true);
-    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setCompletionRole(CODE_ROLE);
     m_completer->setMaxVisibleItems(MOST_ROWS);
@@ -79,6 +75,10 @@ HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, QObject *pa
         this); // installed after the completer's filter, so that it runs first
     connect(m_completer, QOverload<const QModelIndex &>::of(&QCompleter::activated), this,
             &HistoryPopup::choose);
+    connect(m_view, &HistoryView::deleteRequested, this, [this] {
+        m_view->hide();
+        m_history->deleteAll();
+    });
 }
 
 void HistoryPopup::attach(QLineEdit *edit)
@@ -115,10 +115,9 @@ void HistoryPopup::popUp()
 {
     m_isRowChosen = false;
     m_completer->complete();
+    makeRoomForFooter();
     m_view->setMinimumWidth(m_edit->width());
-    for (int column = 0; column < COLUMNS; ++column)
-        m_view->resizeColumnToContents(column);
-    m_view->header()->setStretchLastSection(true);
+    m_view->arrangeColumns();
 }
 
 void HistoryPopup::onTextEdited(const QString &text)
@@ -130,10 +129,22 @@ void HistoryPopup::onTextEdited(const QString &text)
         return;
     }
     fill(text);
-    if (m_model->rowCount() > 1)
+    if (m_model->rowCount() > 0)
         popUp();
     else
         m_view->hide();
+}
+
+/// The completer computes the height from the rows alone.
+void HistoryPopup::makeRoomForFooter()
+{
+    QRect place = m_view->geometry();
+    const bool isAbove = place.top() < m_edit->mapToGlobal(QPoint()).y();
+    if (isAbove)
+        place.setTop(place.top() - m_view->footerHeight());
+    else
+        place.setBottom(place.bottom() + m_view->footerHeight());
+    m_view->setGeometry(place);
 }
 
 // ---- content -------------------------------------------------------------------------------
@@ -154,10 +165,30 @@ void HistoryPopup::fill(const QString &start)
         if (!listed.contains(named.code) && startsWith(named.code, named.name, start))
             addRow(named.code, named.name, QString());
     }
-    addFooter();
+    addChains(start);
+    if (m_model->rowCount() == 0 && start.isEmpty()) {
+        addRow(QString(), dashboardText("HISTORY_EMPTY"), QString());
+        for (int column = 0; column < COLUMNS; ++column)
+            m_model->item(0, column)->setEnabled(false);
+        m_model->item(0, 0)->setIcon(QIcon());
+    }
+    showFooter();
 }
 
-void HistoryPopup::addRow(const QString &code, const QString &name, const QString &time)
+void HistoryPopup::addChains(const QString &start)
+{
+    for (const CodeName &chain : m_chains ? m_chains() : QList<CodeName>()) {
+        if (!startsWith(chain.code, chain.name, start))
+            continue;
+        QStandardItem *item = addRow(chain.code, chain.name, QString());
+        item->setIcon(icon("star", Token::Text2));
+        for (int column = 0; column < COLUMNS; ++column)
+            m_model->item(item->row(), column)->setData(chain.name, CHAIN_ROLE);
+    }
+}
+
+/// Returns the first item of the row.
+QStandardItem *HistoryPopup::addRow(const QString &code, const QString &name, const QString &time)
 {
     QList<QStandardItem *> row;
     for (const QString &text : {isolated(code), name, time}) {
@@ -167,29 +198,27 @@ void HistoryPopup::addRow(const QString &code, const QString &name, const QStrin
     QFont font = row.first()->font();
     font.setBold(true);
     row.first()->setFont(font);
+    row.last()->setForeground(Look::instance().color(Token::Text3));
+    row.last()->setTextAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    row.first()->setIcon(icon(time.isEmpty() ? "codes" : "clock", Token::Text2));
     m_model->appendRow(row);
+    return row.first();
 }
 
-void HistoryPopup::addFooter()
+void HistoryPopup::showFooter()
 {
-    const bool isEmpty = m_history->codes().isEmpty();
-    QStandardItem *action =
-        new QStandardItem(dashboardText(isEmpty ? "HISTORY_EMPTY" : "HISTORY_DELETE"));
-    QStandardItem *note = new QStandardItem(dashboardText("HISTORY_NOT_KEPT"));
-    action->setForeground(Look::instance().color(Token::AccentText));
-    note->setForeground(Look::instance().color(Token::Text3));
-    action->setEnabled(!isEmpty);
-    note->setEnabled(false);
-    m_model->appendRow({action, note, new QStandardItem});
+    m_view->showFooter(dashboardText("HISTORY_NOT_KEPT"), dashboardText("HISTORY_DELETE"),
+                       !m_history->codes().isEmpty());
 }
 
 void HistoryPopup::choose(const QModelIndex &index)
 {
     m_isKeyPressed = false;
     const QString code = index.data(CODE_ROLE).toString();
-    if (code.isEmpty())
-        m_history->deleteAll();
-    else
+    const QString chain = index.data(CHAIN_ROLE).toString();
+    if (!chain.isEmpty())
+        emit chainChosen(chain);
+    else if (!code.isEmpty())
         emit chosen(code);
 }
 
@@ -220,12 +249,35 @@ bool HistoryPopup::onEditKey(int key)
     return false;
 }
 
-/// Makes Return send the entered text unless the user has selected a row of the list. The current
-/// row is not sufficient to determine this, because a list view makes its first row current when it
-/// receives the focus.
+/// Moves between the last row and the button of the footer. Returns true if the key was used.
+bool HistoryPopup::moveToButton(int key)
+{
+    const int rows = m_model->rowCount();
+    const bool isLast = m_view->currentIndex().row() == rows - 1 || m_view->isButtonCurrent();
+    if (key == Qt::Key_Down && isLast && !m_view->button()->isHidden()) {
+        m_view->setButtonCurrent(true);
+        return true;
+    }
+    const bool wasCurrent = m_view->isButtonCurrent();
+    m_view->setButtonCurrent(false);
+    if (!wasCurrent || key != Qt::Key_Up)
+        return false;
+    m_view->setCurrentIndex(m_model->index(rows - 1, 0));
+    return true;
+}
+
+/// Lets Return send what the user has typed, unless the user has chosen a row of the list. The
+/// current row does not show this, because a list makes its first row the current one when it gets
+/// the focus.
 bool HistoryPopup::onPopupKey(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && m_view->isButtonCurrent()) {
+        m_view->button()->click();
+        return true;
+    }
+    if (m_isRowChosen && moveToButton(event->key()))
+        return true;
     if (isMove(event->key()))
         m_isRowChosen = true;
     if (!isReturn || m_isRowChosen || !m_edit)

@@ -10,13 +10,14 @@
 #include "StateStrip.h"
 
 class QCompleter;
+class QStandardItem;
 class QStandardItemModel;
-class QTreeView;
 
 namespace Dashboard
 {
 
 class CodeHistory;
+class HistoryView;
 
 /**
  * The list below the code field, with the codes that the user has sent, the user's own codes, and
@@ -29,8 +30,10 @@ class HistoryPopup : public QObject
 public:
     using Names = std::function<QList<CodeName>()>;
 
-    /// Both arguments must outlive this object.
-    HistoryPopup(CodeHistory *history, const Names &names, QObject *parent = nullptr);
+    /// The code of a chain is the string that shows what it sends. The arguments must stay valid as
+    /// long as this object exists.
+    HistoryPopup(CodeHistory *history, const Names &names, const Names &chains,
+                 QObject *parent = nullptr);
 
     /// Attaches the list to the code field, which may be null.
     void attach(QLineEdit *edit);
@@ -40,12 +43,14 @@ public:
     /// Opens the list with all codes.
     void open();
     bool isOpen() const;
-    QTreeView *view() const { return m_view; }
+    HistoryView *view() const { return m_view; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
     void chosen(const QString &code);
+    /// Emitted with the name of the chain.
+    void chainChosen(const QString &name);
 
 private:
     void onTextEdited(const QString &text);
@@ -53,15 +58,19 @@ private:
     bool onPopupKey(QKeyEvent *event);
     void choose(const QModelIndex &index);
     void fill(const QString &start);
-    void addRow(const QString &code, const QString &name, const QString &time);
-    void addFooter();
+    QStandardItem *addRow(const QString &code, const QString &name, const QString &time);
+    void addChains(const QString &start);
+    void showFooter();
+    bool moveToButton(int key);
+    void makeRoomForFooter();
     void popUp();
 
     CodeHistory *const m_history;
     const Names m_names;
+    const Names m_chains;
     QPointer<QLineEdit> m_edit;
     QStandardItemModel *m_model;
-    QTreeView *m_view;
+    HistoryView *m_view;
     QCompleter *m_completer;
     bool m_isOpenedByTyping = true;
     bool m_isKeyPressed = false; // false if the dashboard itself has changed the text of the field

@@ -65,6 +65,7 @@ HomePage::HomePage(const Parts &parts, QWidget *parent)
         connect(m_parts.monitor, &CommandMonitor::changed, this, &HomePage::lookSoon);
         connect(m_parts.monitor, &CommandMonitor::ticked, this, &HomePage::lookAtBalance);
     }
+    connect(m_parts.favourites, &Favourites::changed, this, &HomePage::lookSoon);
     connect(&Look::instance(), &Look::changed, this, &HomePage::lookSoon);
     setForm(Form::Wide);
 }
@@ -453,8 +454,8 @@ int HomePage::favouriteCount() const
 
 void HomePage::lookAtFavourites()
 {
-    const bool isShown =
-        (isNormal() || m_situation.kind == Situation::Kind::CodesUnknown) && !m_codes.all.isEmpty();
+    const bool isShown = (isNormal() || m_situation.kind == Situation::Kind::CodesUnknown) &&
+                         !(m_codes.all.isEmpty() && m_parts.favourites->chains().isEmpty());
     m_favourites->setVisible(isShown);
     const QList<NamedCode> codes = m_parts.favourites->among(m_codes).mid(0, favouriteCount());
     m_grid->setColumns(favouriteColumns());
@@ -502,6 +503,8 @@ void HomePage::copyNumber()
 
 void HomePage::choose(const NamedCode &code)
 {
+    if (code.isChain())
+        return m_parts.actions->runChain(code.name);
     if (!code.takesNumber())
         return m_parts.actions->sendCode(code.code);
     CodeNumberDialog *dialog = new CodeNumberDialog(code, this);
@@ -512,12 +515,17 @@ void HomePage::choose(const NamedCode &code)
 
 void HomePage::editFavourites()
 {
-    FavouriteDialog *dialog = new FavouriteDialog(m_codes.all, m_parts.favourites->among(m_codes),
-                                                  Favourites::MOST, this);
+    Favourites *favourites = m_parts.favourites;
+    FavouriteDialog *dialog = new FavouriteDialog(
+        m_codes.all + favourites->chains(), favourites->among(m_codes), Favourites::MOST, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] {
-        m_parts.favourites->select(dialog->codes());
-        look();
+    connect(dialog, &QDialog::accepted, this, [favourites, dialog] {
+        for (const QString &chain : dialog->removed())
+            favourites->remove(chain);
+        const QMap<QString, QString> renamed = dialog->renamed();
+        for (auto name = renamed.begin(); name != renamed.end(); ++name)
+            favourites->rename(name.key(), name.value());
+        favourites->select(dialog->selected());
     });
     dialog->open();
 }

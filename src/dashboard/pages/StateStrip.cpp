@@ -129,6 +129,7 @@ void StateStrip::makeEndButtons()
     connect(m_cancel, &QPushButton::clicked, this, &StateStrip::cancelled);
     connect(m_end, &QPushButton::clicked, this, &StateStrip::menuEnded);
     connect(m_dismiss, &QPushButton::clicked, this, &StateStrip::dismissed);
+    connect(m_dismiss, &QPushButton::clicked, this, &StateStrip::chainDismissed);
 }
 
 void StateStrip::makeRows()
@@ -183,6 +184,20 @@ void StateStrip::setCommand(const CommandState &state)
     update();
 }
 
+void StateStrip::setChain(const ChainState &chain)
+{
+    m_chain = chain;
+    update();
+}
+
+void StateStrip::setKeepOffered(bool isOffered)
+{
+    if (isOffered == m_isKeepOffered)
+        return;
+    m_isKeepOffered = isOffered;
+    update();
+}
+
 void StateStrip::setSituation(const Situation &situation)
 {
     m_situation = situation;
@@ -220,6 +235,13 @@ bool StateStrip::isBlocked() const
     return !m_situation.canSend && !m_state.isPending();
 }
 
+/// Returns true if the strip shows why a chain has stopped. The choices of the open menu stay.
+bool StateStrip::showsStoppedChain() const
+{
+    return !isBlocked() && m_chain.hasStopped() &&
+           (m_state.kind == Kind::Ready || m_state.kind == Kind::MenuOpen);
+}
+
 QString StateStrip::title() const
 {
     return m_title->QLabel::text();
@@ -247,6 +269,8 @@ void StateStrip::update()
     const bool isNarrow = m_form == Form::Narrow;
     if (isBlocked())
         showWords(m_situation.title, m_situation.text);
+    else if (showsStoppedChain())
+        showWords(m_chain.title, m_chain.text);
     else if (m_state.kind == Kind::MenuOpen && isNarrow)
         showWords(dashboardText("STRIP_MENU_NARROW"),
                   m_state.choices.isEmpty() ? m_state.text
@@ -279,6 +303,8 @@ void StateStrip::updateIcon()
     m_ring->setAccessibleName(m_state.text);
     if (isBlocked())
         m_icon->setIcon(m_situation.icon ? m_situation.icon : "modem", m_situation.tone);
+    else if (showsStoppedChain())
+        m_icon->setIcon("warning", Tone::Warn);
     else if (m_state.kind == Kind::MenuOpen)
         m_icon->setIcon("list", Tone::Accent);
     else if (m_state.kind == Kind::Failed)
@@ -294,14 +320,16 @@ void StateStrip::updateIcon()
 void StateStrip::updateEndButtons()
 {
     const bool isBlockedNow = isBlocked();
-    const bool isRest = m_state.kind == Kind::Ready || m_state.kind == Kind::MenuEnded;
+    const bool isStopped = showsStoppedChain() && m_state.kind == Kind::Ready;
+    const bool isRest =
+        (m_state.kind == Kind::Ready || m_state.kind == Kind::MenuEnded) && !isStopped;
     const bool isOver = m_state.kind == Kind::Failed || m_state.kind == Kind::Cancelled;
     m_history->setVisible(!isBlockedNow && isRest);
     m_ownWindow->setVisible(!isBlockedNow && isRest && m_isOwnWindowOffered &&
                             m_form != Form::Narrow);
     m_cancel->setVisible(m_state.mayBeCancelled);
     m_end->setVisible(!isBlockedNow && m_state.kind == Kind::MenuOpen);
-    m_dismiss->setVisible(!isBlockedNow && isOver);
+    m_dismiss->setVisible(!isBlockedNow && (isOver || isStopped));
     const bool isNarrow = m_form == Form::Narrow;
     m_copy->setVisible(!isBlockedNow && !isNarrow && !m_state.isPending());
     m_more->setVisible(!isBlockedNow && (isRest || (!isNarrow && !m_state.isPending())));
@@ -399,13 +427,18 @@ void StateStrip::fillRow()
     if (isBlocked())
         addRemedies();
     else if (m_state.kind == Kind::Waiting)
-        addNote(dashboardText("STRIP_WAITING_TEXT"));
-    else if (m_state.kind == Kind::MenuOpen)
+        addNote(m_chain.progress.isEmpty() ? dashboardText("STRIP_WAITING_TEXT")
+                                           : m_chain.progress);
+    else if (m_state.kind == Kind::MenuOpen) {
+        addReason();
         addChoices();
-    else if (m_state.kind == Kind::Failed || m_state.kind == Kind::Cancelled)
+    } else if (m_state.kind == Kind::Failed || m_state.kind == Kind::Cancelled)
         addFailureButtons();
-    else if (m_state.kind != Kind::Queued)
+    else if (m_state.kind != Kind::Queued) {
+        addReason();
+        addKeep();
         addRecent();
+    }
     orderTabStops();
     m_rowLayout->addStretch(1);
 }
@@ -454,8 +487,9 @@ void StateStrip::addChoices()
     if (rest.isEmpty())
         return addNote(m_state.menuText.simplified());
     const int roomForMore = px(ROOM_FOR_MORE);
+    const int room = roomLeft() - px(ROOM_FOR_MORE + CHOICE_PADDING);
     while (!rest.isEmpty()) {
-        addChoice(rest.first());
+        addChoice(rest.first(), room);
         const bool isLast = rest.size() == 1;
         if (roomLeft() < (isLast ? -m_rowLayout->spacing() : roomForMore))
             break;
@@ -469,10 +503,10 @@ void StateStrip::addChoices()
     addMore(rest);
 }
 
-void StateStrip::addChoice(const MenuChoice &choice)
+/// Adds the choice, elided to the room that is left if it is the only choice.
+void StateStrip::addChoice(const MenuChoice &choice, int room)
 {
     QPushButton *button = addButton("choice", choiceText(choice));
-    const int room = m_rowWidth - px(ROOM_FOR_MORE + CHOICE_PADDING);
     button->setText(button->fontMetrics().elidedText(button->text(), Qt::ElideRight, room));
     button->setToolTip(choice.text);
     button->setObjectName(QLatin1String("Dashboard_Choice"));
@@ -513,6 +547,29 @@ void StateStrip::addOnly4G()
     QPushButton *only = addButton("", dashboardText("STRIP_ONLY_4G"));
     only->setObjectName(QLatin1String("Dashboard_Only4G"));
     connect(only, &QPushButton::clicked, this, &StateStrip::formerModesRequested);
+}
+
+/// Offers the complete reason why the chain has stopped, because the strip may elide it.
+void StateStrip::addReason()
+{
+    if (!showsStoppedChain())
+        return;
+    QPushButton *reason = makeIconButton("info", m_row);
+    reason->setObjectName(QLatin1String("Dashboard_WhyStopped"));
+    setIconButtonText(reason, dashboardText("STRIP_WHAT_HAPPENED"));
+    connect(reason, &QPushButton::clicked, this, &StateStrip::detailsRequested);
+    m_rowLayout->addWidget(reason);
+}
+
+/// Offers to keep the walk, before the codes that were sent last.
+void StateStrip::addKeep()
+{
+    if (!m_isKeepOffered)
+        return;
+    QPushButton *keep = addButton("", dashboardText("CHAIN_KEEP"));
+    keep->setObjectName(QLatin1String("Dashboard_KeepWalk"));
+    setButtonIcon(keep, "star", Token::AccentText);
+    connect(keep, &QPushButton::clicked, this, &StateStrip::keepRequested);
 }
 
 void StateStrip::addRecent()

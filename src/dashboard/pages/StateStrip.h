@@ -5,6 +5,7 @@
 
 #include "device/Situation.h"
 #include "Page.h"
+#include "plugin/ChainRunner.h"
 #include "plugin/CommandMonitor.h"
 
 class QHBoxLayout;
@@ -41,7 +42,11 @@ public:
     /// from being sent.
     void setCommand(const CommandState &state);
     void setSituation(const Situation &situation);
-    /// Sets the codes that are offered while the strip is ready, starting with the most recent one.
+    /// Shows the progress of a chain, or why it has stopped.
+    void setChain(const ChainState &chain);
+    /// Sets whether the walk through a menu that has ended can be kept.
+    void setKeepOffered(bool isOffered);
+    /// Sets the codes that are offered while nothing goes on, newest first.
     void setRecent(const QList<CodeName> &codes);
     void setForm(Form form);
     /// Sets whether there is a button that opens the general window in a separate frame.
@@ -74,6 +79,8 @@ signals:
     void saveRequested();
     void answered(const QString &key);
     void codeChosen(const QString &code);
+    void keepRequested();
+    void chainDismissed();
     void remedyChosen(Dashboard::Remedy remedy);
     /// Emitted with the text of each alert for screen readers.
     void announced(const QString &words);
@@ -101,9 +108,12 @@ private:
     void addNote(const QString &text);
     QPushButton *addButton(const char *kind, const QString &text);
     void addChoices();
-    void addChoice(const MenuChoice &choice);
+    void addChoice(const MenuChoice &choice, int room);
     void addMore(const QList<MenuChoice> &rest);
+    void addKeep();
+    void addReason();
     void addRecent();
+    bool showsStoppedChain() const;
     void addFailureButtons();
     void addAllowOlder();
     void addOnly4G();
@@ -111,6 +121,8 @@ private:
     int roomLeft() const;
 
     CommandState m_state;
+    ChainState m_chain;
+    bool m_isKeepOffered = false;
     Situation m_situation;
     QList<CodeName> m_recent;
     Form m_form = Form::Wide;

@@ -98,6 +98,12 @@ bool CommandMonitor::canSend() const
     return window.isComplete() && !window.isWaiting() && m_device->status().isRegistered();
 }
 
+bool CommandMonitor::hasTypedText() const
+{
+    const QLineEdit *edit = activeWindow().commandEdit();
+    return edit && !edit->text().isEmpty();
+}
+
 bool CommandMonitor::send(const QString &code)
 {
     return canSend() && activeWindow().send(code);

@@ -74,8 +74,9 @@ public:
     const CommandState &state() const { return m_state; }
     /// Returns true if a code can be sent now.
     bool canSend() const;
-    /// Returns the codes that the user has sent, starting with the most recent one, without
-    /// duplicates, numbers and PINs.
+    /// Returns true if the code field contains something that has not been sent.
+    bool hasTypedText() const;
+    /// Returns the codes that the user sent, newest first, each once, without numbers and PINs.
     QStringList recent() const { return m_recent; }
     /// Sets the codes that contain a placeholder for a number ("%s"). They are used to remove
     /// numbers from codes.

@@ -8,6 +8,8 @@
 #include "pages/AppActions.h"
 #include "pages/CodesPage.h"
 #include "plugin/LoadedPlugin.h"
+#include "plugin/ServiceList.h"
+#include "PluginFolderChoice.h"
 #include "sim/SimWindows.h"
 
 namespace Dashboard
@@ -23,6 +25,16 @@ QString historyFile(const AppController *controller)
     return controller->settings() ? CodeHistory::fileOfUser() : QString();
 }
 
+QStringList codesWithPlace()
+{
+    QStringList codes = readCodesWithPlace(CodeFiles::inUse());
+    for (const Service &service : readServices(HostCore::PluginFolderChoice::current())) {
+        if (service.isByCode && service.code.contains(QLatin1String(NUMBER)))
+            codes << service.code;
+    }
+    return codes;
+}
+
 QList<NamedCode> codesInUse()
 {
     return readAccountCodes(CodeFiles::inUse(), PaidType::Unknown).all;
@@ -30,11 +42,15 @@ QList<NamedCode> codesInUse()
 
 } // namespace
 
-CodesSetup::CodesSetup(AppController *controller, AppActions *actions, QObject *parent)
+CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourites *favourites,
+                       QObject *parent)
     : QObject(parent), m_controller(controller), m_history(historyFile(controller)),
+      m_chains(&controller->monitor()), m_walks(&controller->monitor()),
       m_page(new CodesPage({controller->plugin(), &controller->monitor(), &m_history,
-                            [this] { return names(); }, &controller->modes()}))
+                            [this] { return names(); }, &controller->modes(), &m_chains, &m_walks,
+                            favourites}))
 {
+    followChains();
     connect(controller, &AppController::pluginStarted, this, &CodesSetup::onPluginStarted);
     connect(controller, &AppController::windowsOffered, this, &CodesSetup::offerWindow);
     connect(controller, &AppController::frameClosed, this, &CodesSetup::readCodes);
@@ -49,7 +65,18 @@ CodesSetup::CodesSetup(AppController *controller, AppActions *actions, QObject *
     followSettings();
 }
 
-/// Returns the codes with their names. Placeholders for numbers are replaced with an ellipsis.
+/// A walk belongs to the SIM with which the user took it.
+void CodesSetup::followChains()
+{
+    connect(m_controller, &AppController::deviceChosen, &m_walks, &WalkWatcher::forget);
+    connect(m_controller, &AppController::pluginStarted, &m_walks, &WalkWatcher::forget);
+    connect(&m_controller->device(), &DeviceWatcher::lost, &m_walks, &WalkWatcher::forget);
+    connect(&m_controller->operatorCodes(), &OperatorCodes::networkChanged, &m_walks,
+            &WalkWatcher::forget);
+    connect(m_controller, &AppController::languageChanged, &m_chains, &ChainRunner::retranslate);
+}
+
+/// Returns the codes with names. The place for a number is shown as an ellipsis.
 QList<CodeName> CodesSetup::names() const
 {
     QList<CodeName> names;
@@ -62,12 +89,7 @@ QList<CodeName> CodesSetup::names() const
 
 void CodesSetup::readCodes()
 {
-    QStringList templates;
-    for (const NamedCode &named : codesInUse()) {
-        if (named.takesNumber())
-            templates << named.code;
-    }
-    m_controller->monitor().setTemplates(templates);
+    m_controller->monitor().setTemplates(codesWithPlace());
     m_page->refreshNames();
 }
 

@@ -3,7 +3,9 @@
 
 #include <QObject>
 
+#include "plugin/ChainRunner.h"
 #include "plugin/CodeHistory.h"
+#include "plugin/WalkWatcher.h"
 
 namespace Dashboard
 {
@@ -11,6 +13,7 @@ namespace Dashboard
 class AppActions;
 class AppController;
 class CodesPage;
+class Favourites;
 struct CodeName;
 struct PluginFailure;
 
@@ -23,7 +26,8 @@ class CodesSetup : public QObject
     Q_OBJECT
 public:
     /// All arguments must outlive this object.
-    CodesSetup(AppController *controller, AppActions *actions, QObject *parent = nullptr);
+    CodesSetup(AppController *controller, AppActions *actions, Favourites *favourites,
+               QObject *parent = nullptr);
 
     /// Returns the page, which the caller must give a parent.
     CodesPage *page() const { return m_page; }
@@ -40,9 +44,12 @@ private:
     void onPluginStarted(const PluginFailure &failure);
     void offerWindow();
     void readCodes();
+    void followChains();
 
     AppController *const m_controller;
     CodeHistory m_history;
+    ChainRunner m_chains;
+    WalkWatcher m_walks;
     CodesPage *m_page;
     bool m_isOffered = false;
 };

@@ -71,6 +71,7 @@ HomeSetup::HomeSetup(AppController *controller, AppActions *actions, QObject *pa
     connect(controller, &AppController::windowsOffered, this, &HomeSetup::readCodes);
     connect(controller, &AppController::frameClosed, this, &HomeSetup::readCodes);
     connect(controller, &AppController::languageChanged, this, &HomeSetup::readCodes);
+    connect(&m_favourites, &Favourites::problem, controller, &AppController::problem);
     connect(&m_store, &AccountStore::problem, controller, &AppController::problem);
     m_daily.setRule([this] { return mayAskDaily(); });
     followSim();

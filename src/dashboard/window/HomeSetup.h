@@ -31,6 +31,7 @@ public:
     HomePage *page() const { return m_page; }
     AccountStore &store() { return m_store; }
     AccountRecorder &recorder() { return m_recorder; }
+    Favourites &favourites() { return m_favourites; }
     void setSituation(const Situation &situation);
 
 public slots:

@@ -71,6 +71,7 @@ public:
 
     void showPage(PageId page) override;
     void sendCode(const QString &code) override;
+    void runChain(const QString &name) override;
     void typeCode(const QString &code) override;
     void topUp() override;
     void openAccountWindow() override;

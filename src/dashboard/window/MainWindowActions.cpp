@@ -216,6 +216,12 @@ void MainWindow::sendCode(const QString &code)
     m_codes->page()->useCode(code);
 }
 
+void MainWindow::runChain(const QString &name)
+{
+    showPage(PageId::Codes);
+    m_codes->page()->runChain(name);
+}
+
 void MainWindow::typeCode(const QString &code)
 {
     showPage(PageId::Codes);

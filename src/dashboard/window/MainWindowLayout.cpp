@@ -80,8 +80,8 @@ bool isFrameOpen()
 
 void MainWindow::makePages()
 {
-    m_codes = new CodesSetup(&m_controller, this, this);
     m_home = new HomeSetup(&m_controller, this, this);
+    m_codes = new CodesSetup(&m_controller, this, &m_home->favourites(), this);
     m_pages[int(PageId::Home)] = m_home->page();
     m_pages[int(PageId::Codes)] = m_codes->page();
     m_servicesPage = new ServicesPage(this);
