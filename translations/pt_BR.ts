@@ -942,10 +942,6 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
         <translation>O menu não oferece mais “%1” na tecla %2. Nada mais foi enviado.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 parou</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Salvar</translation>
     </message>
@@ -956,6 +952,50 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     <message>
         <source>CHAIN_KEEP</source>
         <translation>Salvar este percurso…</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_DAMAGED</source>
+        <translation>O arquivo com seus favoritos estava danificado. Ele foi guardado como %1 e um novo foi criado.</translation>
+    </message>
+    <message>
+        <source>FAVOURITES_NOT_STORED</source>
+        <translation>Não é possível salvar os favoritos em %1. Eles ficam disponíveis até o programa terminar.</translation>
+    </message>
+    <message>
+        <source>CHAIN_DELETE</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>CHAIN_RENAME</source>
+        <translation>Renomear…</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME_IN_USE</source>
+        <translation>Outro favorito já tem este nome.</translation>
+    </message>
+    <message>
+        <source>CHAIN_PROGRESS</source>
+        <translation>%1: passo %2 de %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED_AT</source>
+        <translation>%1 parou no passo %2 de %3</translation>
+    </message>
+    <message>
+        <source>CHAIN_NOT_SENT</source>
+        <translation>Não foi possível enviar o próximo passo.</translation>
+    </message>
+    <message>
+        <source>CHAIN_ASKED</source>
+        <translation>A rede fez uma pergunta por conta própria. Nada mais foi enviado.</translation>
+    </message>
+    <message>
+        <source>CHAIN_TYPED</source>
+        <translation>Você digitou algo. Nada mais foi enviado.</translation>
+    </message>
+    <message>
+        <source>CHAIN_REPLACED</source>
+        <translation>A tecla %2 agora é “%3”, não “%1”. Nada mais foi enviado.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>
