@@ -252,7 +252,9 @@ void HostileRepliesTest::linkInAReplyOpensNothing()
                 latin1("</a>"));
     const UrlRecorder desktop;
     SystemCalls::watch();
-    const QPoint middle = history()->viewport()->rect().center();
+    QPoint middle = history()->viewport()->rect().center();
+    while (history()->anchorAt(middle).isEmpty() && middle.y() > 0)
+        middle.ry() -= 1;                            // the space between two lines is no link
     QVERIFY(!history()->anchorAt(middle).isEmpty()); // there is a link under the pointer
     QTest::mouseClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     QTest::mouseDClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
@@ -349,8 +351,9 @@ void HostileRepliesTest::noNetworkLibraryIsLoaded()
     open();
     showEverywhere(latin1("<img src='http://127.0.0.1:1/x.png'>"));
     const QByteArray libraries = loadedLibraries();
-    QVERIFY(libraries.contains("libQt5Widgets")); // proves that libraries are found
-    QVERIFY(!libraries.contains("libQt5Network"));
+    const QByteArray qt = "libQt" + QByteArray::number(QT_VERSION_MAJOR);
+    QVERIFY(libraries.contains(qt + "Widgets")); // proves that libraries are found
+    QVERIFY(!libraries.contains(qt + "Network"));
 }
 
 USSD_TEST_MAIN(HostileRepliesTest)
