@@ -100,7 +100,7 @@ void CodesPageTest::setUp()
     m_chains.reset(new ChainRunner(&monitor()));
     m_walks.reset(new WalkWatcher(&monitor()));
     m_page.reset(new CodesPage({&plugin(), &monitor(), m_history.data(), [this] { return m_names; },
-                                m_chains.data(), m_walks.data(), m_favourites.data()}));
+                                nullptr, m_chains.data(), m_walks.data(), m_favourites.data()}));
     m_page->resize(900, 700);
     m_page->show();
     m_page->showWindow(true);

@@ -9,6 +9,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
+#include <QWindow>
 
 #include "device/DashboardSettings.h"
 #include "device/Scenarios.h"
@@ -448,6 +449,8 @@ void ShellTest::theWindowIsDimmedBehindAFrame()
     m_window->openFrame(PAID_TYPE_GENERAL);
     QVERIFY(scrim->isVisible());
     QCOMPARE(scrim->geometry(), m_window->centralWidget()->rect());
+    const QWidget *frame = GeneralWindow::framed().commandEdit()->window();
+    QCOMPARE(frame->windowHandle()->transientParent(), m_window->windowHandle());
     GeneralWindow::framed().commandEdit()->window()->close();
     QTRY_VERIFY(!scrim->isVisible());
 }

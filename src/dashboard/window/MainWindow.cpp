@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QStackedWidget>
+#include <QWindow>
 
 #include "AccessibleRoles.h"
 #include "account/AccountWords.h"
@@ -426,7 +427,10 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
     const bool isShown = event->type() == QEvent::Show;
     if ((isShown || event->type() == QEvent::Hide) && isFrame(watched)) {
         m_scrim->setShown(isShown);
-        if (!isShown)
+        // Otherwise, a click could raise this window above the modal one, and nothing would react.
+        if (isShown)
+            static_cast<QWidget *>(watched)->windowHandle()->setTransientParent(windowHandle());
+        else
             QMetaObject::invokeMethod(
                 this, [this] { updateForm(); }, Qt::QueuedConnection);
     }
