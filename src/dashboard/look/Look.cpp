@@ -102,7 +102,13 @@ int Look::px(int at100Percent) const
 
 int Look::em() const
 {
-    return QFontInfo(QApplication::font()).pixelSize();
+    // Every size depends on this value, and finding the font takes much longer than comparing it.
+    const QFont font = QApplication::font();
+    if (m_em == 0 || font != m_emFont) {
+        m_emFont = font;
+        m_em = QFontInfo(font).pixelSize();
+    }
+    return m_em;
 }
 
 double Look::scale() const

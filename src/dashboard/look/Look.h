@@ -61,6 +61,8 @@ private:
     Shade m_systemShade = Shade::Light;
     bool m_isStarted = false;
     bool m_reducesMotion = false;
+    mutable QFont m_emFont; // the font of m_em
+    mutable int m_em = 0;   // 0 means that it is not known yet
     QString m_sheet;
 };
 

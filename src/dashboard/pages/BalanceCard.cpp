@@ -127,6 +127,8 @@ QWidget *BalanceCard::makeButtons()
 /// Moves the time below the title if there is no space for both in a single row.
 void BalanceCard::arrangeHead()
 {
+    if (!isVisible())
+        return; // the card is resized when it is shown
     const QMargins margins = m_layout->contentsMargins();
     const int room = width() - margins.left() - margins.right();
     const int wanted = m_title->sizeHint().width() + m_head->spacing() +

@@ -81,6 +81,10 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
 {
     HostCore::HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
+    // Before the pages exist. Later, the style would have to be applied to all of their widgets
+    // again.
+    setBox(m_root, "root");
+    setBox(m_stack, "page");
     makePages();
     makeCentre();
     makeMenu();

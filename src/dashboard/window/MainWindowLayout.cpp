@@ -124,8 +124,6 @@ void MainWindow::followSettings()
 
 void MainWindow::makeCentre()
 {
-    setBox(m_root, "root");
-    setBox(m_stack, "page");
     m_grid = new QGridLayout(m_root);
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setSpacing(0);
