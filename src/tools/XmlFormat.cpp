@@ -300,7 +300,7 @@ QByteArray formattedXml(const QByteArray &xml, QString &problem)
     const QList<Token> tokens = TokenReader(xml).read(problem);
     if (!problem.isEmpty())
         return QByteArray();
-    const QByteArray result = TokenWriter(tokens).write().toUtf8();
+    QByteArray result = TokenWriter(tokens).write().toUtf8();
     if (!isSameMeaning(before, readXmlElements(result))) {
         problem = QLatin1String("the formatted file would have another meaning");
         return QByteArray();

@@ -553,7 +553,7 @@ void UssdProgramTest::aStoppedChainIsJson()
     COMPARE_EXIT(result, EXIT_MENU_OPEN);
     const QList<QJsonObject> objects = objectsIn(result.out);
     QCOMPARE(objects.size(), 3);
-    const QJsonObject stopped = objects.last();
+    const QJsonObject &stopped = objects.last();
     QCOMPARE(stopped.value(latin1("state")).toString(), latin1("stopped"));
     QCOMPARE(stopped.value(latin1("step")).toInt(), 3);
     QCOMPARE(stopped.value(latin1("key")).toString(), latin1("1"));

@@ -629,7 +629,8 @@ void CodesPageTest::aTranscriptThatCannotBeSavedIsTold()
     const QString file = folder() + QLatin1String("/missing/transcript.txt");
     saveTo(file);
     const QMessageBox *box = part<QMessageBox>("Dashboard_SaveFailed");
-    QVERIFY(box && box->isVisible());
+    QVERIFY(box);
+    QVERIFY(box->isVisible());
     QVERIFY(box->text().startsWith(file + QLatin1String(" cannot be written: ")));
     QVERIFY(box->text().size() > file.size() + 25); // the system's reason
 }

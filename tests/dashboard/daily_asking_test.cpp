@@ -100,7 +100,7 @@ void DailyAskingTest::tell(const TKSV_DeviceInfo &info)
 /// Lets the hours pass, and then lets the object look at the time.
 void DailyAskingTest::look(int hours)
 {
-    m_time = m_time.addSecs(hours * 3600);
+    m_time = m_time.addSecs(qint64(hours) * 3600);
     m_daily->look();
     settle();
 }

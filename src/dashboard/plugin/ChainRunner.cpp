@@ -144,7 +144,7 @@ void ChainRunner::retranslate()
 /// Returns why the chain has stopped.
 QString ChainRunner::reasonText() const
 {
-    const QString text = dashboardText(m_reason);
+    QString text = dashboardText(m_reason);
     const QString expected = isolatedWords(QString::fromStdString(m_step.expected));
     const QString key = isolated(QString::fromStdString(m_step.key));
     if (m_step.verdict != Verdict::Changed || !text.contains(QLatin1String("%1")))
