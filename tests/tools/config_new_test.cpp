@@ -2,17 +2,18 @@
 #include "ProvisionPlan.h"
 #include "SampleNetwork.h"
 #include "ToolArguments.h"
-#include "UssdTest.h"
+#include "ToolTest.h"
 
 #include <QDir>
-#include <QProcess>
 
 using namespace Tools;
 
 /// Tests "ussd-config new": the created folder, and the exit code.
-class ConfigNewTest : public UssdTest
+class ConfigNewTest : public ToolTest
 {
     Q_OBJECT
+public:
+    ConfigNewTest() : ToolTest(CONFIG_PROGRAM) {}
 
 protected:
     void setUp() override;
@@ -33,23 +34,15 @@ private slots:
     void sampleNetworkTakesAnyName();
 
 private:
-    int run(const QStringList &arguments);
     int create(const QStringList &options = QStringList());
     QString target() { return folder() + QLatin1String("/new one"); }
     QStringList database() { return QStringList() << QLatin1String("--database") << m_database; }
 
     QString m_database;
-    QString m_out;
-    QString m_error;
 };
 
 namespace
 {
-QStringList words(const char *blankSeparated)
-{
-    return QString::fromUtf8(blankSeparated).split(QLatin1Char(' '));
-}
-
 const char DATABASE[] =
     "<serviceproviders format='2.0'><country code='de'>\n"
     "<provider><name>Alpha</name><gsm><network-id mcc='262' mnc='07'/>"
@@ -74,17 +67,6 @@ void ConfigNewTest::setUp()
     m_database = writeFile(QLatin1String("database.xml"), DATABASE);
 }
 
-int ConfigNewTest::run(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QLatin1String(CONFIG_PROGRAM), arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        return -1;
-    m_out = QString::fromUtf8(process.readAllStandardOutput());
-    m_error = QString::fromUtf8(process.readAllStandardError());
-    return process.exitCode();
-}
-
 int ConfigNewTest::create(const QStringList &options)
 {
     return run(words("new") << target() << options);
@@ -93,41 +75,41 @@ int ConfigNewTest::create(const QStringList &options)
 void ConfigNewTest::sampleIsCompleteAndClean()
 {
     QCOMPARE(create(), int(TOOL_GOOD));
-    QVERIFY(m_out.contains(QLatin1String("replace its codes")));
+    QVERIFY(outText().contains(QLatin1String("replace its codes")));
     QCOMPARE(
         contentOf(target() + QLatin1String(CONFIGURATION)),
         contentOf(QLatin1String(USSD_SOURCE_DIR "/plugins/USSDUIPlugin/USSDPluginConfig.xml")));
     QCOMPARE(run(words("check") << target()), int(TOOL_GOOD));
-    QCOMPARE(m_out.count(QLatin1String("findings: 0")), 3);
+    QCOMPARE(outText().count(QLatin1String("findings: 0")), 3);
 }
 
 void ConfigNewTest::operatorsFolderIsCompleteAndClean()
 {
     QCOMPARE(create(words("--operator alpha --country de") << database()), int(TOOL_GOOD));
-    QVERIFY(m_out.contains(QLatin1String("operator    Alpha (de)\n")));
+    QVERIFY(outText().contains(QLatin1String("operator    Alpha (de)\n")));
     QVERIFY(contentOf(target() + QLatin1String(CONFIGURATION)).contains("*103*%s#"));
     QVERIFY(contentOf(target() + QLatin1String(PROFILES)).contains("*101#"));
     const QByteArray scenario = contentOf(target() + QLatin1String(SCENARIO));
     QVERIFY(scenario.contains("IMSI=262070000000000\n"));
     QVERIFY(scenario.contains("[*103*%s#]\n"));
     QCOMPARE(run(words("check") << target()), int(TOOL_GOOD));
-    QCOMPARE(m_out.count(QLatin1String("findings: 0")), 3);
+    QCOMPARE(outText().count(QLatin1String("findings: 0")), 3);
 }
 
 void ConfigNewTest::networkCodeSelectsAnOperator()
 {
     QCOMPARE(create(words("--operator 26208") << database()), int(TOOL_GOOD));
-    QVERIFY(m_out.contains(QLatin1String("operator    Beta (de)\n")));
+    QVERIFY(outText().contains(QLatin1String("operator    Beta (de)\n")));
     QVERIFY(contentOf(target() + QLatin1String(SCENARIO)).contains("IMSI=262080000000000\n"));
 }
 
 void ConfigNewTest::severalOperatorsAreListed()
 {
     QCOMPARE(create(words("--operator Alpha") << database()), int(TOOL_CHOOSE));
-    QVERIFY(m_error.contains(QLatin1String("  --operator Alpha --country at\n")));
-    QVERIFY(m_error.contains(QLatin1String("  --operator Alpha --country de\n")));
+    QVERIFY(errorText().contains(QLatin1String("  --operator Alpha --country at\n")));
+    QVERIFY(errorText().contains(QLatin1String("  --operator Alpha --country de\n")));
     QCOMPARE(create(words("--operator 26207") << database()), int(TOOL_CHOOSE));
-    QVERIFY(m_error.contains(QLatin1String("  --operator Beta --country de\n")));
+    QVERIFY(errorText().contains(QLatin1String("  --operator Beta --country de\n")));
     QVERIFY(!QFile::exists(target()));
 }
 
@@ -144,7 +126,7 @@ void ConfigNewTest::unusableOperators()
     QFETCH(QString, name);
     QFETCH(QString, said);
     QCOMPARE(create(words("--operator") << name << database()), int(TOOL_BAD));
-    QVERIFY2(m_error.contains(said), qPrintable(m_error));
+    QVERIFY2(errorText().contains(said), qPrintable(errorText()));
     QVERIFY(!QFile::exists(target()));
 }
 
@@ -153,7 +135,7 @@ void ConfigNewTest::existingFolderIsLeftAlone()
     QVERIFY(QDir().mkpath(target()));
     writeFile(QLatin1String("new one/mine.txt"), "mine");
     QCOMPARE(create(), int(TOOL_REFUSED));
-    QVERIFY(m_error.contains(QLatin1String("exists already")));
+    QVERIFY(errorText().contains(QLatin1String("exists already")));
     QCOMPARE(QDir(target()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), words("mine.txt"));
 }
 
@@ -169,7 +151,7 @@ void ConfigNewTest::failureLeavesNothing()
 {
     const QStringList before = QDir(folder()).entryList();
     QCOMPARE(run(words("new") << m_database + QLatin1String("/folder")), int(TOOL_BAD));
-    QVERIFY(!m_error.isEmpty());
+    QVERIFY(!errorText().isEmpty());
     QCOMPARE(QDir(folder()).entryList(), before);
 }
 
@@ -193,7 +175,7 @@ void ConfigNewTest::unusableArguments()
 {
     QFETCH(QString, arguments);
     QCOMPARE(run(arguments.split(QLatin1Char(' '))), int(TOOL_USAGE));
-    QVERIFY(m_error.contains(QLatin1String("--help")));
+    QVERIFY(errorText().contains(QLatin1String("--help")));
 }
 
 void ConfigNewTest::sampleNetworkTakesAnyName()

@@ -1,16 +1,17 @@
 #include "OddFiles.h"
 #include "ToolArguments.h"
-#include "UssdTest.h"
+#include "ToolTest.h"
 
 #include <QJsonDocument>
-#include <QProcess>
 
 using namespace Tools;
 
 /// Tests the output and the exit code of ussd-config.
-class ConfigToolTest : public UssdTest
+class ConfigToolTest : public ToolTest
 {
     Q_OBJECT
+public:
+    ConfigToolTest() : ToolTest(CONFIG_PROGRAM) {}
 
 private slots:
     void statusFollowsTheWorstFile();
@@ -24,12 +25,8 @@ private slots:
     void helpAndVersion();
 
 private:
-    int run(const QStringList &arguments);
     QString good() { return QLatin1String(USSD_SOURCE_DIR "/scenarios/default.scenario"); }
     QString doubtful();
-
-    QByteArray m_out;
-    QByteArray m_error;
 };
 
 namespace
@@ -39,17 +36,6 @@ QStringList check()
     return QStringList() << QLatin1String("check");
 }
 } // namespace
-
-int ConfigToolTest::run(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QLatin1String(CONFIG_PROGRAM), arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        return -1;
-    m_out = process.readAllStandardOutput();
-    m_error = process.readAllStandardError();
-    return process.exitCode();
-}
 
 QString ConfigToolTest::doubtful()
 {

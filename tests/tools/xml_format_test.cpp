@@ -1,19 +1,20 @@
 #include "FileCheck.h"
 #include "OddFiles.h"
 #include "ToolArguments.h"
-#include "UssdTest.h"
+#include "ToolTest.h"
 #include "XmlElements.h"
 #include "XmlFormat.h"
 
-#include <QProcess>
 #include <QRandomGenerator>
 
 using namespace Tools;
 
 /// Tests "ussd-config fmt": the layout, what it keeps, and what it refuses.
-class XmlFormatTest : public UssdTest
+class XmlFormatTest : public ToolTest
 {
     Q_OBJECT
+public:
+    XmlFormatTest() : ToolTest(CONFIG_PROGRAM) {}
 
 private slots:
     void layoutIsUniform_data();
@@ -32,10 +33,6 @@ private slots:
     void unusableArguments();
 
 private:
-    int run(const QStringList &arguments);
-
-    QByteArray m_out;
-    QByteArray m_error;
 };
 
 namespace
@@ -52,11 +49,6 @@ QByteArray formatted(const QByteArray &xml)
 QByteArray shipped()
 {
     return contentOf(QLatin1String(USSD_SOURCE_DIR "/plugins/USSDUIPlugin/USSDPluginConfig.xml"));
-}
-
-QStringList words(const char *blankSeparated)
-{
-    return QString::fromUtf8(blankSeparated).split(QLatin1Char(' '));
 }
 
 QByteArray commentsIn(const QByteArray &xml)
@@ -81,17 +73,6 @@ QByteArray piece(QRandomGenerator &random, int depth)
     return "<k>" + inner + "</k>";
 }
 } // namespace
-
-int XmlFormatTest::run(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QLatin1String(CONFIG_PROGRAM), arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        return -1;
-    m_out = process.readAllStandardOutput();
-    m_error = process.readAllStandardError();
-    return process.exitCode();
-}
 
 void XmlFormatTest::layoutIsUniform_data()
 {
