@@ -10,24 +10,10 @@
 #include "look/Look.h"
 #include "pages/FirstRunPage.h"
 #include "pages/OperatorOption.h"
+#include "SampleOperators.h"
 #include "sim/OperatorCodes.h"
 
 using namespace Dashboard;
-
-namespace
-{
-
-const char DATABASE[] =
-    "<?xml version='1.0'?>\n<serviceproviders format='2.0'><country code='zz'>\n"
-    "<provider><name>Alone</name><gsm><network-id mcc='999' mnc='01'/>"
-    "<balance-check><ussd>*511#</ussd></balance-check></gsm></provider>\n"
-    "<provider><name>First</name><gsm><network-id mcc='999' mnc='02'/>"
-    "<balance-check><ussd>*521#</ussd></balance-check></gsm></provider>\n"
-    "<provider><name>Second</name><gsm><network-id mcc='999' mnc='02'/>"
-    "<balance-check><ussd>*522#</ussd></balance-check></gsm></provider>\n"
-    "</country></serviceproviders>\n";
-
-} // namespace
 
 /** Tests the page that is shown until the user has set up the program. */
 class FirstRunTest : public DeviceTest
@@ -62,7 +48,7 @@ void FirstRunTest::setUp()
     DeviceTest::setUp();
     settings().setFirstRunDone(false);
     OperatorPlaces places;
-    places.database = writeFile(QLatin1String("operators.xml"), DATABASE);
+    places.database = writeFile(QLatin1String("operators.xml"), SAMPLE_OPERATORS);
     places.folders = folder() + QLatin1String("/operators");
     window().operatorCodes().setPlaces(places);
     tell(modemInfo(TKSV_DEVICE_SEARCHING));

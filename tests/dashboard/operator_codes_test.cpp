@@ -7,6 +7,7 @@
 
 #include "device/DashboardSettings.h"
 #include "PluginFolderChoice.h"
+#include "SampleOperators.h"
 #include "sim/OperatorCodes.h"
 #include "SimTest.h"
 #include "window/OperatorChooser.h"
@@ -15,17 +16,6 @@ using namespace Dashboard;
 
 namespace
 {
-
-const char DATABASE[] =
-    "<?xml version='1.0'?>\n<serviceproviders format='2.0'><country code='zz'>\n"
-    "<provider><name>Alone</name><gsm><network-id mcc='999' mnc='01'/>"
-    "<balance-check><ussd>*511#</ussd></balance-check></gsm></provider>\n"
-    "<provider><name>First</name><gsm><network-id mcc='999' mnc='02'/>"
-    "<balance-check><ussd>*521#</ussd></balance-check></gsm></provider>\n"
-    "<provider><name>Second</name><gsm><network-id mcc='999' mnc='02'/>"
-    "<balance-check><ussd>*522#</ussd></balance-check></gsm></provider>\n"
-    "<provider><name>Silent</name><gsm><network-id mcc='999' mnc='03'/></gsm></provider>\n"
-    "</country></serviceproviders>\n";
 
 const char ALONE[] = "HomeNetwork=99901";
 const char SEVERAL[] = "HomeNetwork=99902";
@@ -86,7 +76,7 @@ void OperatorCodesTest::setUp()
 void OperatorCodesTest::offerOperators()
 {
     OperatorPlaces places;
-    places.database = writeFile(QLatin1String("operators.xml"), DATABASE);
+    places.database = writeFile(QLatin1String("operators.xml"), SAMPLE_OPERATORS);
     places.folders = folder() + QLatin1String("/operators");
     window().operatorCodes().setPlaces(places);
 }
