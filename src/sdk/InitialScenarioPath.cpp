@@ -2,8 +2,9 @@
 
 #include <cstdlib>
 #include <dlfcn.h>
-#include <filesystem>
-#include <system_error>
+#include <memory>
+
+#include "modemmanager/GLibPointers.h"
 
 namespace Tksv
 {
@@ -15,15 +16,15 @@ namespace
 /// do.
 const char ADDRESS_IN_LIBRARY = 0;
 
-/// Returns the folder from which this library was loaded.
-std::filesystem::path libraryFolder()
+/// Returns the path of this library, with symbolic links resolved if possible.
+std::string libraryPath()
 {
     Dl_info info = {};
     if (dladdr(&ADDRESS_IN_LIBRARY, &info) == 0 || !info.dli_fname)
         return {};
-    std::error_code ignored; // if an error occurs, the unresolved path is used
-    const std::filesystem::path path = std::filesystem::canonical(info.dli_fname, ignored);
-    return path.empty() ? std::filesystem::path(info.dli_fname).parent_path() : path.parent_path();
+    const std::unique_ptr<char, decltype(&std::free)> resolved(realpath(info.dli_fname, nullptr),
+                                                               &std::free);
+    return resolved ? resolved.get() : info.dli_fname;
 }
 
 } // namespace
@@ -33,8 +34,12 @@ std::string initialScenarioPath()
     const char *chosen = std::getenv("TKSV_SCENARIO");
     if (chosen && *chosen)
         return chosen;
-    const std::filesystem::path shipped = "scenarios/default.scenario";
-    return (libraryFolder() / USSD_SHARE_FROM_LIB / shipped).lexically_normal().string();
+    // GLib instead of std::filesystem, which would link the locales of the C++ library into this
+    // one and double its size.
+    const GMemory<char> file(g_build_filename(libraryPath().c_str(), "..", USSD_SHARE_FROM_LIB,
+                                              "scenarios", "default.scenario", nullptr));
+    const GMemory<char> path(g_canonicalize_filename(file.get(), nullptr));
+    return path.get();
 }
 
 } // namespace Tksv
