@@ -229,6 +229,7 @@ void AccountStoreTest::textsKeepAmountsAndDates_data()
     same("Balance 1 234 567 FCFA");
     same("Balance: 12500000 VND");
     same("Balance: Rp 12500000");
+    same("Balance: 12500000 US dollars");
     same("1.8 GB of 2 GB, 300 SMS, 120 min");
     row("number", QLatin1String("Call +999 55 0123456 now"),
         QLatin1String("Call ") + dots + QLatin1String("3456 now"));
