@@ -183,6 +183,7 @@ void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
 void NetworkTextTest::deletingAllDeletesTheTexts()
 {
     say("secret");
+    window().showPage(PageId::Settings);
     emit part<SettingsPage>("Dashboard_SettingsPage")->deleteAllRequested();
     QCOMPARE(unread(), QString());
     QVERIFY(store().newest().text.isEmpty());
@@ -209,6 +210,7 @@ void NetworkTextTest::deletingAllLeavesNoFile()
     QCOMPARE(keptFiles(), all);
     const QString salt = Provisioning::userDataHome() + QLatin1String("/sim-salt");
     const QByteArray before = contentOf(salt);
+    window().showPage(PageId::Settings);
     emit part<SettingsPage>("Dashboard_SettingsPage")->deleteAllRequested();
     QCOMPARE(keptFiles(), QStringList(QLatin1String("sim-salt"))); // the next entries need a key
     QVERIFY(contentOf(salt) != before);

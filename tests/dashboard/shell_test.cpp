@@ -1,6 +1,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -54,6 +55,8 @@ private slots:
     void theFormDependsOnTheWidthInEm_data();
     void theFormDependsOnTheWidthInEm();
     void aChangeOfFormKeepsThePagesAndTheFocus();
+    void aPageIsConstructedWhenItIsNeeded();
+    void aPageConstructedLaterIsUpToDate();
     void nothingIsCutAtAnyWidth_data();
     void nothingIsCutAtAnyWidth();
     void theSizesOfTheWindowAreBounded();
@@ -169,6 +172,33 @@ void ShellTest::aChangeOfFormKeepsThePagesAndTheFocus()
         QCOMPARE(edit->text(), QLatin1String("*12"));
         QCOMPARE(QApplication::focusWidget(), edit);
     }
+}
+
+// Otherwise, hidden pages would cost most of the start time.
+void ShellTest::aPageIsConstructedWhenItIsNeeded()
+{
+    for (const char *name : {"Dashboard_ServicesPage", "Dashboard_MessagesPage",
+                             "Dashboard_SettingsPage", "Dashboard_FirstRunPage"})
+        QVERIFY2(!part<QWidget>(name), name);
+    m_window->showPage(PageId::Settings);
+    QVERIFY(part<QWidget>("Dashboard_SettingsPage")->isVisible());
+    QVERIFY(!part<QWidget>("Dashboard_MessagesPage"));
+}
+
+// Tests that a new page has the current language, services, situation and form.
+void ShellTest::aPageConstructedLaterIsUpToDate()
+{
+    const QString language = HostCore::Languages::current();
+    m_window->setLanguage(QLatin1String("de"));
+    resizeTo(360);
+    m_window->showPage(PageId::Services);
+    QCOMPARE(m_window->pageOf(PageId::Services)->findChild<QLabel *>()->text(),
+             QLatin1String("Dienste"));
+    QVERIFY(part<QWidget>("Dashboard_Service_0")->isEnabled());
+    m_window->showPage(PageId::Messages);
+    QCOMPARE(m_window->pageOf(PageId::Messages)->layout()->contentsMargins().left(),
+             Look::instance().px(8));
+    m_window->setLanguage(language);
 }
 
 void ShellTest::nothingIsCutAtAnyWidth_data()
@@ -318,6 +348,7 @@ void ShellTest::aFieldLeavesItsKeyToTheMenu()
 
 void ShellTest::controlFSearchesOnTheMessagesPageToo()
 {
+    m_window->showPage(PageId::Messages);
     QLineEdit *search = part<QLineEdit>("Dashboard_MessagesSearch");
     for (const PageId page : {PageId::Settings, PageId::Messages}) {
         m_window->showPage(page);

@@ -121,6 +121,13 @@ void FirstRunStep::setRemedy(Remedy remedy)
     m_button->setText(remedy == Remedy::None ? QString() : remedyText(remedy));
 }
 
+bool isFirstRunDue(const DashboardSettings *settings, const DeviceWatcher &device,
+                   const OperatorCodes &codes)
+{
+    return settings && !settings->isFirstRunDone() && !device.status().isSimulated &&
+           codes.isFree() && !codes.isDecided();
+}
+
 FirstRunPage::FirstRunPage(DashboardSettings *settings, const DeviceWatcher *device,
                            const OperatorCodes *codes, QMenu *languageMenu, QWidget *parent)
     : Page("Dashboard_FirstRunPage", parent), m_settings(settings), m_device(device),
@@ -193,13 +200,6 @@ void FirstRunPage::makeButtons(QVBoxLayout *card)
             [this] { emit chosen(Remedy::TryDemonstration); });
     connect(m_notNow, &QPushButton::clicked, this, &FirstRunPage::finish);
     connect(m_use, &QPushButton::clicked, this, &FirstRunPage::useChosen);
-}
-
-bool FirstRunPage::isDue() const
-{
-    const DeviceStatus &status = m_device->status();
-    return m_settings && !m_settings->isFirstRunDone() && !status.isSimulated &&
-           m_codes->isFree() && !m_codes->isDecided();
 }
 
 bool FirstRunPage::hasModem() const

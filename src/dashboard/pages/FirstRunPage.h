@@ -27,6 +27,11 @@ class OperatorCodes;
 class PageColumn;
 class OperatorOption;
 
+/// Returns true if the page FirstRunPage is to be shown. Returns false during a demonstration, and
+/// if `settings` is null.
+bool isFirstRunDue(const DashboardSettings *settings, const DeviceWatcher &device,
+                   const OperatorCodes &codes);
+
 /** A step of the first run: an icon, a title, a text and a button. */
 class FirstRunStep : public QWidget
 {
@@ -58,12 +63,10 @@ class FirstRunPage : public Page
 {
     Q_OBJECT
 public:
-    /// The arguments must outlive the page. If `settings` is null, isDue() always returns false.
+    /// The arguments must outlive the page.
     FirstRunPage(DashboardSettings *settings, const DeviceWatcher *device,
                  const OperatorCodes *codes, QMenu *languageMenu, QWidget *parent = nullptr);
 
-    /// Returns true if the page is to be shown. Returns false during a demonstration.
-    bool isDue() const;
     void showSituation(const Situation &situation);
     /// Updates the list of operators that match the SIM.
     void listOperators();
@@ -78,7 +81,7 @@ signals:
     void providerChosen(const Provisioning::Provider &provider);
     /// Emitted when the user decides against using an operator's codes.
     void declined();
-    /// Emitted when isDue() may have changed.
+    /// Emitted when the result of isFirstRunDue() may have changed.
     void finished();
 
 protected:

@@ -43,12 +43,13 @@ QList<NamedCode> codesInUse()
 } // namespace
 
 CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourites *favourites,
-                       QObject *parent)
+                       QWidget *pages, QObject *parent)
     : QObject(parent), m_controller(controller), m_history(historyFile(controller)),
       m_chains(&controller->monitor()), m_walks(&controller->monitor()),
       m_page(new CodesPage({controller->plugin(), &controller->monitor(), &m_history,
                             [this] { return names(); }, &controller->modes(), &m_chains, &m_walks,
-                            favourites}))
+                            favourites},
+                           pages))
 {
     followChains();
     connect(controller, &AppController::pluginStarted, this, &CodesSetup::onPluginStarted);

@@ -25,11 +25,10 @@ class CodesSetup : public QObject
 {
     Q_OBJECT
 public:
-    /// All arguments must outlive this object.
+    /// The first three arguments must outlive this object. The page becomes a child of `pages`.
     CodesSetup(AppController *controller, AppActions *actions, Favourites *favourites,
-               QObject *parent = nullptr);
+               QWidget *pages, QObject *parent = nullptr);
 
-    /// Returns the page, which the caller must give a parent.
     CodesPage *page() const { return m_page; }
 
 public slots:

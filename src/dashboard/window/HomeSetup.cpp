@@ -40,12 +40,12 @@ HomePage::Parts partsOf(AppController *controller, AppActions *actions)
 }
 
 HomePage *makePage(HomePage::Parts parts, AccountStore *store, AccountRecorder *recorder,
-                   Favourites *favourites)
+                   Favourites *favourites, QWidget *parent)
 {
     parts.store = store;
     parts.recorder = recorder;
     parts.favourites = favourites;
-    return new HomePage(parts);
+    return new HomePage(parts, parent);
 }
 
 /// Returns the file name, or an empty string if the controller does not have settings and nothing
@@ -57,12 +57,13 @@ QString fileIfStored(const AppController *controller, const QString &file)
 
 } // namespace
 
-HomeSetup::HomeSetup(AppController *controller, AppActions *actions, QObject *parent)
+HomeSetup::HomeSetup(AppController *controller, AppActions *actions, QWidget *pages,
+                     QObject *parent)
     : QObject(parent), m_controller(controller),
       m_store(fileIfStored(controller, AccountStore::userFile())), m_recorder(&m_store),
       m_favourites(fileIfStored(controller, Favourites::userFile())),
       m_daily(&controller->monitor(), &controller->device(), controller->settings()),
-      m_page(makePage(partsOf(controller, actions), &m_store, &m_recorder, &m_favourites))
+      m_page(makePage(partsOf(controller, actions), &m_store, &m_recorder, &m_favourites, pages))
 {
     connect(&controller->monitor(), &CommandMonitor::replied, &m_recorder,
             &AccountRecorder::record);

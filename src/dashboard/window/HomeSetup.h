@@ -24,10 +24,10 @@ class HomeSetup : public QObject
 {
     Q_OBJECT
 public:
-    /// All arguments must outlive this object.
-    HomeSetup(AppController *controller, AppActions *actions, QObject *parent = nullptr);
+    /// `controller` and `actions` must outlive this object. The page becomes a child of `pages`.
+    HomeSetup(AppController *controller, AppActions *actions, QWidget *pages,
+              QObject *parent = nullptr);
 
-    /// Returns the page, which the caller must give a parent.
     HomePage *page() const { return m_page; }
     AccountStore &store() { return m_store; }
     AccountRecorder &recorder() { return m_recorder; }

@@ -90,7 +90,7 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     makeMenu();
     makeShortcuts();
     makeRegions();
-    m_controller.setPageWindow([this] { return GeneralWindow(page()); });
+    m_controller.setPageWindow([this] { return GeneralWindow(m_codes ? page() : nullptr); });
     followController();
     followBanners();
     followRemedies();
@@ -108,8 +108,6 @@ void MainWindow::followController()
     connect(&m_controller, &AppController::deviceChosen, this, &MainWindow::showDevice);
     connect(&m_controller, &AppController::windowsOffered, this,
             [this] { m_menu->offer(m_controller.windows()); });
-    connect(&m_controller, &AppController::windowsOffered, m_servicesPage,
-            &ServicesPage::readServices);
     connect(&m_controller.monitor(), &CommandMonitor::changed, this, &MainWindow::showServices);
     connect(&m_controller, &AppController::paidTypeChanged, this, &MainWindow::showDevice);
     connect(&m_controller, &AppController::frameClosed, this, &MainWindow::frameClosed);
@@ -141,8 +139,6 @@ void MainWindow::followMessages()
     MessageStore *store = &m_messages->store();
     connect(store, &MessageStore::unreadCountChanged, m_navigation, &Navigation::setUnread);
     connect(store, &MessageStore::unreadCountChanged, m_header, &Header::setUnread);
-    connect(m_settingsPage, &SettingsPage::keepingChanged, &m_messages->center(),
-            &MessageCenter::look);
     connect(&m_messages->notifier(), &DesktopNotifier::activated, this,
             [this](DesktopNote::Kind kind, qint64 id) {
                 if (kind == DesktopNote::Kind::Message)
@@ -182,7 +178,7 @@ void MainWindow::openMessage(qint64 id)
 {
     raiseAgain();
     showPage(PageId::Messages);
-    m_messagesPage->open(id);
+    messagesPage()->open(id);
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -201,9 +197,9 @@ void MainWindow::setProfiles(ProfileKeeper *profiles)
     connect(this, &MainWindow::frameClosed, profiles, &ProfileKeeper::refresh);
 }
 
-QWidget *MainWindow::page() const
+QWidget *MainWindow::page()
 {
-    return m_codes->page()->area()->canvas();
+    return codesPage()->area()->canvas();
 }
 
 DeviceMenu *MainWindow::deviceMenu() const
@@ -213,6 +209,7 @@ DeviceMenu *MainWindow::deviceMenu() const
 
 PluginFailure MainWindow::loadPlugin()
 {
+    pageOf(PageId::Codes); // displays the plug-in's window, or why the plug-in cannot be loaded
     return m_controller.loadPlugin();
 }
 
@@ -235,10 +232,10 @@ void MainWindow::retranslate()
     m_chooser->retranslate();
     m_remedies->retranslate();
     m_messages->retranslate();
-    for (Page *page : m_pages)
+    for (Page *page : madePages())
         page->retranslate();
-    m_codes->retranslate();
-    m_firstRun->retranslate();
+    if (m_codes)
+        m_codes->retranslate();
     showNewestMessage();
     showDevice();
 }
@@ -264,13 +261,23 @@ void MainWindow::showDevice()
     showHeader(now);
     showDeviceLine(now);
     showBanners();
-    m_settingsPage->setDeviceChoice(choiceText());
-    m_firstRun->showSituation(now);
-    m_home->setSituation(now);
-    m_codes->page()->setSituation(now);
-    m_servicesPage->setSituation(now);
-    m_servicesPage->setOperatorName(device().status().operatorName);
+    showOnPages(now);
     showFirstRun();
+}
+
+void MainWindow::showOnPages(const Situation &situation)
+{
+    m_home->setSituation(situation);
+    if (m_firstRun)
+        m_firstRun->showSituation(situation);
+    if (m_codes)
+        m_codes->page()->setSituation(situation);
+    if (m_settingsPage)
+        m_settingsPage->setDeviceChoice(choiceText());
+    if (!m_servicesPage)
+        return;
+    m_servicesPage->setSituation(situation);
+    m_servicesPage->setOperatorName(device().status().operatorName);
 }
 
 /// Returns the text for the selected device, for example "Automatic".
@@ -291,7 +298,8 @@ QString MainWindow::choiceText() const
 void MainWindow::showServices()
 {
     const CommandState::Kind kind = m_controller.monitor().state().kind;
-    m_servicesPage->setMenuOpen(kind == CommandState::Kind::MenuOpen);
+    if (m_servicesPage)
+        m_servicesPage->setMenuOpen(kind == CommandState::Kind::MenuOpen);
     if (kind == CommandState::Kind::Ready || kind == CommandState::Kind::MenuEnded)
         m_messages->store().endWaiting();
 }

@@ -16,6 +16,7 @@ namespace Dashboard
 {
 
 class AppMenu;
+class CodesPage;
 class CodesSetup;
 class DeviceMenu;
 class FirstRunPage;
@@ -57,7 +58,7 @@ public:
     void setProfiles(ProfileKeeper *profiles);
 
     /// Returns the parent of the plug-in's embedded general window.
-    QWidget *page() const;
+    QWidget *page();
     AppController &controller() { return m_controller; }
     DeviceWatcher &device() { return m_controller.device(); }
     DeviceMenu *deviceMenu() const;
@@ -66,7 +67,8 @@ public:
     const SimFollower &sim() const { return m_controller.sim(); }
     Form form() const { return m_form; }
     PageId currentPage() const;
-    Page *pageOf(PageId page) const { return m_pages[int(page)]; }
+    /// Returns the page, and constructs it if it is needed for the first time.
+    Page *pageOf(PageId page);
     bool isFirstRun() const;
 
     void showPage(PageId page) override;
@@ -108,7 +110,17 @@ protected:
 
 private:
     void makePages();
-    void followFirstRun();
+    Page *makePage(PageId page);
+    Page *makeCodes();
+    Page *makeServices();
+    Page *makeMessages();
+    Page *makeSettings();
+    void makeFirstRun();
+    void addPage(Page *page);
+    QList<Page *> madePages() const;
+    CodesSetup &codes();
+    CodesPage *codesPage();
+    MessagesPage *messagesPage();
     void followSettings();
     void makeCentre();
     void makeMenu();
@@ -133,6 +145,7 @@ private:
     void onBannerAction(Banners::Kind kind);
     void onBannerClosed(Banners::Kind kind);
     void showDevice();
+    void showOnPages(const Situation &situation);
     void showServices();
     void openMessage(qint64 id);
     void showHeader(const Situation &situation);
@@ -166,9 +179,8 @@ private:
     QStackedWidget *m_stack;
     HomeSetup *m_home = nullptr;
     CodesSetup *m_codes = nullptr;
-    Page *m_pages[int(PageId::Settings) + 1] = {};
+    Page *m_pages[int(PageId::Settings) + 1] = {}; // null until the page is first needed
     ServicesPage *m_servicesPage = nullptr;
-    MessagesPage *m_messagesPage = nullptr;
     SettingsPage *m_settingsPage = nullptr;
     FirstRunPage *m_firstRun = nullptr;
     Scrim *m_scrim;

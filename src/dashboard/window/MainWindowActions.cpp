@@ -98,8 +98,6 @@ void MainWindow::makeShortcuts()
             focusPage();
         });
     }
-    for (QAction *action : m_codes->page()->shortcuts())
-        addAction(action);
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_I), [this] { m_header->toggleNumber(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_T), [this] { topUp(); });
     addShortcut(QKeySequence(Qt::Key_F5), [this] { m_home->page()->askAgain(); });
@@ -113,9 +111,9 @@ void MainWindow::makeShortcuts()
 void MainWindow::find()
 {
     if (currentPage() == PageId::Codes)
-        return m_codes->page()->find();
+        return codesPage()->find();
     showPage(PageId::Messages);
-    m_messagesPage->focusSearch();
+    messagesPage()->focusSearch();
 }
 
 void MainWindow::makeRegions()
@@ -158,7 +156,7 @@ void MainWindow::showModemMenu()
 /// deleted entries have the old one.
 void MainWindow::deleteAll()
 {
-    m_codes->deleteAll();
+    codes().deleteAll();
     m_home->deleteAll();
     m_messages->store().removeAll();
     if (!m_settings)
@@ -213,19 +211,19 @@ void MainWindow::openFrame(int paidType)
 void MainWindow::sendCode(const QString &code)
 {
     showPage(PageId::Codes);
-    m_codes->page()->useCode(code);
+    codesPage()->useCode(code);
 }
 
 void MainWindow::runChain(const QString &name)
 {
     showPage(PageId::Codes);
-    m_codes->page()->runChain(name);
+    codesPage()->runChain(name);
 }
 
 void MainWindow::typeCode(const QString &code)
 {
     showPage(PageId::Codes);
-    m_codes->page()->typeCode(code);
+    codesPage()->typeCode(code);
 }
 
 void MainWindow::topUp()

@@ -78,50 +78,6 @@ bool isFrameOpen()
 
 } // namespace
 
-void MainWindow::makePages()
-{
-    m_home = new HomeSetup(&m_controller, this, this);
-    m_codes = new CodesSetup(&m_controller, this, &m_home->favourites(), this);
-    m_pages[int(PageId::Home)] = m_home->page();
-    m_pages[int(PageId::Codes)] = m_codes->page();
-    m_servicesPage = new ServicesPage(this);
-    m_messagesPage = new MessagesPage(&m_messages->store(), &m_controller.monitor());
-    m_pages[int(PageId::Services)] = m_servicesPage;
-    m_pages[int(PageId::Messages)] = m_messagesPage;
-    m_settingsPage = new SettingsPage(
-        {m_settings, &device(), &operatorCodes(), deviceMenu(), m_menu->languageMenu()});
-    m_pages[int(PageId::Settings)] = m_settingsPage;
-    for (Page *page : m_pages)
-        m_stack->addWidget(page);
-    m_firstRun = new FirstRunPage(m_settings, &device(), &operatorCodes(), m_menu->languageMenu());
-    m_stack->addWidget(m_firstRun);
-    m_stack->setCurrentWidget(pageOf(PageId::Home));
-    followFirstRun();
-    followSettings();
-}
-
-void MainWindow::followFirstRun()
-{
-    connect(m_firstRun, &FirstRunPage::finished, this, &MainWindow::showFirstRun);
-    connect(m_firstRun, &FirstRunPage::chosen, this, &MainWindow::perform);
-    connect(m_firstRun, &FirstRunPage::providerChosen, m_chooser, &OperatorChooser::take);
-    connect(m_firstRun, &FirstRunPage::declined, m_chooser, &OperatorChooser::decline);
-}
-
-void MainWindow::followSettings()
-{
-    m_settingsPage->setDetection(m_controller.isDetectionOn());
-    connect(m_settingsPage, &SettingsPage::detectionChosen, &m_controller,
-            &AppController::setDetection);
-    connect(m_settingsPage, &SettingsPage::operatorRequested, m_chooser, &OperatorChooser::choose);
-    connect(m_settingsPage, &SettingsPage::hidingChanged, m_header, &Header::setHidesNumber);
-    connect(m_settingsPage, &SettingsPage::changed, m_home, &HomeSetup::followSim);
-    connect(m_settingsPage, &SettingsPage::keepingChanged, m_home, &HomeSetup::followSim);
-    connect(m_settingsPage, &SettingsPage::keepingChanged, m_codes, &CodesSetup::followSettings);
-    connect(m_settingsPage, &SettingsPage::deleteAllRequested, this, &MainWindow::deleteAll);
-    connect(m_chooser, &OperatorChooser::changed, m_settingsPage, &SettingsPage::retranslate);
-}
-
 void MainWindow::makeCentre()
 {
     m_grid = new QGridLayout(m_root);
@@ -161,9 +117,8 @@ void MainWindow::applyForm()
     m_navigation->setForm(m_form);
     m_header->setForm(m_form);
     m_banners->setForm(m_form);
-    for (Page *page : m_pages)
+    for (Page *page : madePages())
         page->setForm(m_form);
-    m_firstRun->setForm(m_form);
     forgetSizes(m_root);
 }
 
@@ -207,17 +162,18 @@ PageId MainWindow::currentPage() const
 
 bool MainWindow::isFirstRun() const
 {
-    return m_stack->currentWidget() == m_firstRun;
+    return m_firstRun && m_stack->currentWidget() == m_firstRun;
 }
 
 void MainWindow::showFirstRun()
 {
-    const bool isDue = m_firstRun->isDue();
+    const bool isDue = isFirstRunDue(m_settings, device(), operatorCodes());
+    if (isDue && !m_firstRun)
+        makeFirstRun();
     m_navigation->setVisible(!isDue);
     m_header->setVisible(!isDue);
     m_banners->setSuppressed(isDue);
-    QWidget *const wanted = isDue ? m_firstRun : pageOf(currentPage());
-    m_stack->setCurrentWidget(wanted);
+    m_stack->setCurrentWidget(isDue ? m_firstRun : pageOf(currentPage()));
 }
 
 } // namespace Dashboard

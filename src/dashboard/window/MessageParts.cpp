@@ -4,6 +4,7 @@
 
 #include "AppController.h"
 #include "messages/MessageDatabase.h"
+#include "QuestionDialog.h"
 
 namespace Dashboard
 {
@@ -19,9 +20,9 @@ QString messageFile(const AppController *controller)
 } // namespace
 
 MessageParts::MessageParts(AppController *controller, QWidget *window)
-    : QObject(window), m_store(messageFile(controller)), m_notifier(QDBusConnection::sessionBus()),
-      m_center(&m_store, &controller->device(), controller->settings(), &m_notifier),
-      m_question(&controller->monitor(), window)
+    : QObject(window), m_controller(controller), m_window(window), m_store(messageFile(controller)),
+      m_notifier(QDBusConnection::sessionBus()),
+      m_center(&m_store, &controller->device(), controller->settings(), &m_notifier)
 {
     m_center.setInFront([window] { return window->isActiveWindow(); });
     connect(controller, &AppController::textReceived, &m_center, &MessageCenter::add);
@@ -29,14 +30,23 @@ MessageParts::MessageParts(AppController *controller, QWidget *window)
         if (controller->monitor().state().kind != CommandState::Kind::MenuOpen)
             m_store.endWaiting();
     });
-    connect(controller, &AppController::frameOpened, &m_question, &QuestionDialog::look);
-    connect(controller, &AppController::frameClosed, &m_question, &QuestionDialog::look);
+    connect(controller, &AppController::frameOpened, this, &MessageParts::showQuestion);
+    connect(controller, &AppController::frameClosed, this, &MessageParts::showQuestion);
     connect(&m_store, &MessageStore::problem, controller, &AppController::problem);
 }
 
 void MessageParts::retranslate()
 {
-    m_question.retranslate();
+    if (m_question)
+        m_question->retranslate();
+}
+
+/// Shows or hides the open menu of the network above a frame.
+void MessageParts::showQuestion()
+{
+    if (!m_question)
+        m_question = new QuestionDialog(&m_controller->monitor(), m_window);
+    m_question->look();
 }
 
 } // namespace Dashboard

@@ -6,12 +6,12 @@
 #include "messages/DesktopNotifier.h"
 #include "messages/MessageCenter.h"
 #include "messages/MessageStore.h"
-#include "QuestionDialog.h"
 
 namespace Dashboard
 {
 
 class AppController;
+class QuestionDialog;
 
 /** Creates and connects the objects that receive, store and announce network-initiated messages. */
 class MessageParts : public QObject
@@ -30,10 +30,14 @@ public slots:
     void retranslate();
 
 private:
+    void showQuestion();
+
+    AppController *const m_controller;
+    QWidget *const m_window;
     MessageStore m_store;
     DesktopNotifier m_notifier;
     MessageCenter m_center;
-    QuestionDialog m_question;
+    QuestionDialog *m_question = nullptr; // null until a frame has been opened
 };
 
 } // namespace Dashboard

@@ -1,0 +1,149 @@
+/* Implements the pages of MainWindow. Except for the Home page, a page is constructed when it is
+   first needed, because most of the start time would otherwise be spent on hidden pages. */
+#include <QStackedWidget>
+
+#include "AppMenu.h"
+#include "CodesSetup.h"
+#include "DeviceMenu.h"
+#include "Header.h"
+#include "HomeSetup.h"
+#include "LanguageMenu.h"
+#include "MainWindow.h"
+#include "MessageParts.h"
+#include "OperatorChooser.h"
+#include "pages/CodesPage.h"
+#include "pages/FirstRunPage.h"
+#include "pages/HomePage.h"
+#include "pages/MessagesPage.h"
+#include "pages/ServicesPage.h"
+#include "pages/SettingsPage.h"
+
+namespace Dashboard
+{
+
+void MainWindow::makePages()
+{
+    m_home = new HomeSetup(&m_controller, this, m_stack, this);
+    m_pages[int(PageId::Home)] = m_home->page();
+    m_stack->addWidget(m_home->page());
+}
+
+Page *MainWindow::pageOf(PageId page)
+{
+    Page *&made = m_pages[int(page)];
+    if (!made) {
+        made = makePage(page);
+        addPage(made);
+    }
+    return made;
+}
+
+Page *MainWindow::makePage(PageId page)
+{
+    switch (page) {
+    case PageId::Codes:
+        return makeCodes();
+    case PageId::Services:
+        return makeServices();
+    case PageId::Messages:
+        return makeMessages();
+    case PageId::Settings:
+        return makeSettings();
+    case PageId::Home:
+        break;
+    }
+    return m_home->page();
+}
+
+/// Adds a new page to the stack in its current state.
+void MainWindow::addPage(Page *page)
+{
+    m_stack->addWidget(page);
+    page->setForm(m_form);
+    showDevice();
+    showServices();
+}
+
+QList<Page *> MainWindow::madePages() const
+{
+    QList<Page *> made;
+    for (Page *page : m_pages)
+        made << page;
+    made << m_firstRun;
+    made.removeAll(nullptr);
+    return made;
+}
+
+Page *MainWindow::makeCodes()
+{
+    m_codes = new CodesSetup(&m_controller, this, &m_home->favourites(), m_stack, this);
+    for (QAction *action : m_codes->page()->shortcuts())
+        addAction(action);
+    return m_codes->page();
+}
+
+Page *MainWindow::makeServices()
+{
+    m_servicesPage = new ServicesPage(this, m_stack);
+    connect(&m_controller, &AppController::windowsOffered, m_servicesPage,
+            &ServicesPage::readServices);
+    return m_servicesPage;
+}
+
+Page *MainWindow::makeMessages()
+{
+    return new MessagesPage(&m_messages->store(), &m_controller.monitor(), m_stack);
+}
+
+Page *MainWindow::makeSettings()
+{
+    m_settingsPage = new SettingsPage(
+        {m_settings, &device(), &operatorCodes(), deviceMenu(), m_menu->languageMenu()}, m_stack);
+    followSettings();
+    return m_settingsPage;
+}
+
+void MainWindow::makeFirstRun()
+{
+    m_firstRun =
+        new FirstRunPage(m_settings, &device(), &operatorCodes(), m_menu->languageMenu(), m_stack);
+    connect(m_firstRun, &FirstRunPage::finished, this, &MainWindow::showFirstRun);
+    connect(m_firstRun, &FirstRunPage::chosen, this, &MainWindow::perform);
+    connect(m_firstRun, &FirstRunPage::providerChosen, m_chooser, &OperatorChooser::take);
+    connect(m_firstRun, &FirstRunPage::declined, m_chooser, &OperatorChooser::decline);
+    addPage(m_firstRun);
+}
+
+void MainWindow::followSettings()
+{
+    m_settingsPage->setDetection(m_controller.isDetectionOn());
+    connect(m_settingsPage, &SettingsPage::detectionChosen, &m_controller,
+            &AppController::setDetection);
+    connect(m_settingsPage, &SettingsPage::operatorRequested, m_chooser, &OperatorChooser::choose);
+    connect(m_settingsPage, &SettingsPage::hidingChanged, m_header, &Header::setHidesNumber);
+    connect(m_settingsPage, &SettingsPage::changed, m_home, &HomeSetup::followSim);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, m_home, &HomeSetup::followSim);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, &codes(), &CodesSetup::followSettings);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, &m_messages->center(),
+            &MessageCenter::look);
+    connect(m_settingsPage, &SettingsPage::deleteAllRequested, this, &MainWindow::deleteAll);
+    connect(m_chooser, &OperatorChooser::changed, m_settingsPage, &SettingsPage::retranslate);
+}
+
+CodesSetup &MainWindow::codes()
+{
+    pageOf(PageId::Codes);
+    return *m_codes;
+}
+
+CodesPage *MainWindow::codesPage()
+{
+    return codes().page();
+}
+
+MessagesPage *MainWindow::messagesPage()
+{
+    return static_cast<MessagesPage *>(pageOf(PageId::Messages));
+}
+
+} // namespace Dashboard
