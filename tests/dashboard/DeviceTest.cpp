@@ -96,7 +96,10 @@ TKSV_Modem DeviceTest::modem(const char *equipmentId, const char *name, bool isI
 
 QAction *DeviceTest::networkAction(const QString &text) const
 {
-    for (QAction *action : m_window->deviceMenu()->actions()) {
+    DeviceMenu *menu = m_window->deviceMenu();
+    if (!menu->isVisible())
+        menu->fill();
+    for (QAction *action : menu->actions()) {
         if (action->text() == text)
             return action;
     }

@@ -21,6 +21,7 @@
 #include "UssdTest.h"
 #include "window/AppController.h"
 #include "window/Banners.h"
+#include "window/DeviceMenu.h"
 #include "window/MainWindow.h"
 
 using namespace Dashboard;
@@ -106,6 +107,7 @@ void MainWindowTest::tearDown()
 
 QAction *MainWindowTest::networkAction(const QString &text) const
 {
+    m_window->deviceMenu()->fill();
     for (const QAction *menu : m_window->menuBar()->actions()) {
         for (QAction *action : menu->menu()->actions()) {
             if (action->text() == text)

@@ -1,7 +1,6 @@
 #include "StyleSheet.h"
 
 #include <QFile>
-#include <QRegularExpression>
 
 #include "Resources.h"
 
@@ -72,19 +71,32 @@ void fillInSides(QString *sheet, Qt::LayoutDirection direction)
     sheet->replace(QLatin1String("@end@"), isMirrored ? left : right);
 }
 
+/// Returns the number at the position, and moves the position to the character after the number.
+int takeNumber(const QString &text, int *position)
+{
+    int number = 0;
+    for (; *position < text.length() && text.at(*position).isDigit(); ++*position)
+        number = number * 10 + text.at(*position).digitValue();
+    return number;
+}
+
 /// Replaces each "#14px" with the scaled size, and each "#14-1px" with the scaled size minus one
 /// pixel. The latter exactly compensates for the thicker border of a widget that has the focus.
+/// QRegularExpression is not used, because it would compile machine code at each start.
 QString withSizes(const QString &sheet, double scale)
 {
-    static const QRegularExpression size(QLatin1String("#(\\d+)(?:-(\\d+))?px"));
+    const QLatin1String unit("px");
     QString result;
     int end = 0;
-    for (auto hits = size.globalMatch(sheet); hits.hasNext();) {
-        const QRegularExpressionMatch hit = hits.next();
-        result += sheet.mid(end, hit.capturedStart() - end);
-        const int pixels = qRound(hit.captured(1).toInt() * scale) - hit.captured(2).toInt();
-        result += QString::number(pixels) + QLatin1String("px");
-        end = int(hit.capturedEnd());
+    for (int mark = sheet.indexOf(QLatin1Char('#')); mark >= 0;
+         mark = sheet.indexOf(QLatin1Char('#'), mark + 1)) {
+        int at = mark + 1;
+        const int size = takeNumber(sheet, &at);
+        const int less = sheet.mid(at, 1) == QLatin1String("-") ? takeNumber(sheet, &(++at)) : 0;
+        if (sheet.mid(at, unit.size()) != unit)
+            continue; // a colour
+        result += sheet.mid(end, mark - end) + QString::number(qRound(size * scale) - less) + unit;
+        end = at + unit.size();
     }
     return result + sheet.mid(end);
 }

@@ -102,6 +102,7 @@ bool walkTwoModems(TourGuide &guide)
     shown.show(TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_NONE, ShownDevice::MODEL);
     guide.window()->setDevice(DeviceChoice::modem(QLatin1String(MODEM)));
     DeviceMenu *menu = guide.window()->deviceMenu();
+    menu->fill();
     TourGuide::settle();
     QWidget *line = part<QWidget>(guide, "Dashboard_DeviceLine");
     menu->popup(line->mapToGlobal(QPoint(0, -menu->sizeHint().height())));

@@ -23,7 +23,7 @@ QString asMenuText(QString name)
 
 DeviceMenu::DeviceMenu(QWidget *parent) : QMenu(parent)
 {
-    connect(this, SIGNAL(aboutToShow()), this, SLOT(retranslate()));
+    connect(this, SIGNAL(aboutToShow()), this, SLOT(fill()));
     retranslate();
 }
 
@@ -31,18 +31,19 @@ void DeviceMenu::offer(const DeviceChoice &choice, const QList<Modem> &modems)
 {
     m_choice = choice;
     m_modems = modems;
-    if (!isVisible())
-        retranslate();
 }
 
 void DeviceMenu::retranslate()
+{
+    setTitle(dashboardText("MENU_MODEM"));
+}
+
+void DeviceMenu::fill()
 {
     clear();
     delete m_group;
     m_group = new QActionGroup(this);
     connect(m_group, SIGNAL(triggered(QAction *)), this, SLOT(onTriggered(QAction *)));
-    setTitle(dashboardText("MENU_MODEM"));
-
     addChoice(dashboardText("NETWORK_AUTOMATIC"), DeviceChoice::automatic());
     addSeparator();
     addModems();

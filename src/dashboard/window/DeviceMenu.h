@@ -21,14 +21,16 @@ class DeviceMenu : public QMenu
 public:
     explicit DeviceMenu(QWidget *parent = nullptr);
 
-    /// Sets the current choice and the modems to list. If the menu is open, the change takes effect
-    /// when the user opens it again, so that menu items do not move under the mouse pointer.
+    /// Sets the current choice and the modems to list. The change takes effect when the user opens
+    /// the menu again, so that menu items do not move under the mouse pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
 
 public slots:
-    /// Updates the strings after a language change.
+    /// Updates the title after a language change.
     void retranslate();
+    /// Creates the menu items. Called before the menu is shown.
+    void fill();
 
 signals:
     /// Emitted when the user selects a device. `word` is the return value of DeviceChoice::word().
