@@ -5,6 +5,11 @@
 # The packages are written to FOLDER, by default build/packages. --version overrides the latest
 # version in debian/changelog. --check-reproducible builds the packages again under different
 # conditions, and compares all packages byte for byte.
+#
+# Environment variables for packages that are published:
+#     DEBFULLNAME, DEBEMAIL    name and address of the maintainer, as for Debian's own tools
+#     USSD_APPLICATION_ID      identifier in software centres, with the reversed name of a domain
+# Without them, the packages contain placeholders in reserved domains.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
@@ -28,6 +33,25 @@ while [ $# -gt 0 ]; do
     shift
 done
 output=$(realpath -m "${1:-build/packages}")
+NOBODY='The USSD UI plug-in authors <nobody@ussd-ui-plugin.invalid>'
+
+# set_maintainer FOLDER: replaces the placeholder in the source tree in FOLDER with the maintainer in
+# the environment.
+set_maintainer()
+{
+    [ -n "${DEBEMAIL:-}" ] || return 0
+    placeholder=$NOBODY maintainer="${DEBFULLNAME:-$DEBEMAIL} <$DEBEMAIL>" \
+        perl -pi -e 's/\Q$ENV{placeholder}\E/$ENV{maintainer}/' "$1/debian/control" "$1/debian/changelog"
+}
+
+# report_placeholders: prints the variables that are required for packages that are published.
+report_placeholders()
+{
+    local variable
+    for variable in DEBEMAIL USSD_APPLICATION_ID; do
+        [ -n "${!variable:-}" ] || say "$variable is not set, so the packages contain a placeholder."
+    done
+}
 
 # add_version FOLDER: adds an entry for $version to the changelog of the source tree in FOLDER.
 add_version()
@@ -49,6 +73,7 @@ build_in()
     mkdir -p "$1"
     cp -a "$snapshot" "$1/source"
     [ -z "$version" ] || add_version "$1/source"
+    set_maintainer "$1/source"
     # The packages contain the modification times of the files, which differ between checkouts.
     find "$1/source" -exec touch --no-dereference \
         --date="@$(cd "$1/source" && dpkg-parsechangelog --show-field Timestamp)" {} +
@@ -90,4 +115,5 @@ if [ -n "$check_reproducible" ]; then
     compare "$work/another/folder"
 fi
 cp "$work"/*.deb "$work"/*.changes "$work"/*.buildinfo "$output"
+report_placeholders
 say "The packages are in $output."

@@ -2,6 +2,7 @@
 
 #include "XmlName.h"
 
+#include <QBuffer>
 #include <QXmlStreamReader>
 
 namespace Formats
@@ -14,6 +15,15 @@ const char ENTITY_DECLARATION[] = "<!ENTITY";
 const int LONGEST_DECLARATION_START = 4 * int(sizeof ENTITY_DECLARATION); // in UTF-32
 const qint64 BLOCK_SIZE = qint64(64) * 1024;
 
+const char DECLARES_ENTITIES[] = "The document declares entities, which are not supported.";
+const char ODD_ENCODING[] = "The encoding of the document is not supported.";
+
+// Prefixes of the encodings in which an ASCII character is always represented by its own code. In
+// other encodings, such as UTF-7 and ISO-2022-JP, an entity declaration may consist of other bytes.
+const char *const ENCODINGS[] = {"utf-8",       "utf-16", "utf-32",   "us-ascii", "iso-8859-",
+                                 "windows-125", "koi8-",  "gb2312",   "gbk",      "gb18030",
+                                 "big5",        "euc-",   "shift_jis"};
+
 /// Reports an undeclared entity as an error. By default, the parser skips the entity, which could
 /// change a USSD code into a different one.
 void refuseUnknownEntity(QXmlStreamReader &reader)
@@ -22,32 +32,59 @@ void refuseUnknownEntity(QXmlStreamReader &reader)
         QString::fromLatin1("Entity '%1' not declared.").arg(reader.name().toString()));
 }
 
-/// Returns true if the bytes contain an entity declaration. Zero bytes are ignored, because they
-/// separate the letters in UTF-16.
-bool declaresEntity(QByteArray bytes)
+/// Returns the bytes without zero bytes, which separate the letters in UTF-16.
+QByteArray withoutZeros(QByteArray bytes)
 {
-    return bytes.replace('\0', "").contains(ENTITY_DECLARATION);
+    return bytes.replace('\0', "");
 }
 
-/// Searches the device for an entity declaration, and then restores the position. The function
-/// searches the raw bytes, because parsing the document would already expand parameter entities.
-bool declaresEntity(QIODevice &device)
+/// Returns the name of the encoding in lower case. An XML declaration without a name means UTF-8.
+QByteArray encodingIn(const QByteArray &xmlDeclaration)
+{
+    const int attribute = int(xmlDeclaration.indexOf("encoding"));
+    if (attribute < 0)
+        return ENCODINGS[0];
+    return xmlDeclaration.mid(attribute).replace('\'', '"').split('"').value(1).toLower();
+}
+
+/// Returns true if the encoding does not hide entity declarations. `start` contains the first bytes
+/// of the document, which must include the complete XML declaration.
+bool hasUsualEncoding(const QByteArray &start)
+{
+    const QByteArray text = withoutZeros(start);
+    if (!text.contains("<?xml"))
+        return true;
+    const int end = int(text.indexOf("?>"));
+    const QByteArray encoding = end < 0 ? QByteArray() : encodingIn(text.left(end));
+    for (const char *known : ENCODINGS) {
+        if (encoding.startsWith(known))
+            return true;
+    }
+    return false;
+}
+
+/// Returns an error message if the device declares entities, or a null pointer. Restores the
+/// position. The function searches the raw bytes, because parsing the document would already expand
+/// parameter entities.
+const char *faultIn(QIODevice &device)
 {
     const qint64 start = device.pos();
-    QByteArray end; // the end of the previous block, where a declaration may start
-    bool found = false;
-    while (!found && !device.atEnd()) {
-        const QByteArray block = end + device.read(BLOCK_SIZE);
-        found = declaresEntity(block);
-        end = block.right(LONGEST_DECLARATION_START);
+    QByteArray block = device.read(BLOCK_SIZE);
+    const char *fault = hasUsualEncoding(block) ? nullptr : ODD_ENCODING;
+    while (!fault && !block.isEmpty()) {
+        if (withoutZeros(block).contains(ENTITY_DECLARATION))
+            fault = DECLARES_ENTITIES;
+        // A declaration may start at the end of a block.
+        const QByteArray next = device.read(BLOCK_SIZE);
+        block = next.isEmpty() ? next : block.right(LONGEST_DECLARATION_START) + next;
     }
-    return !device.seek(start) || found;
+    return device.seek(start) ? fault : DECLARES_ENTITIES;
 }
 
-void refuseEntities(QXmlStreamReader &reader)
+void refuse(QXmlStreamReader &reader, const char *fault)
 {
     reader.clear();
-    reader.raiseError(QLatin1String("The document declares entities, which are not supported."));
+    reader.raiseError(QLatin1String(fault));
 }
 
 } // namespace
@@ -57,17 +94,20 @@ namespace ForwardXml
 
 void start(QXmlStreamReader &reader, QIODevice &device)
 {
-    if (declaresEntity(device))
-        refuseEntities(reader);
+    if (const char *fault = faultIn(device))
+        refuse(reader, fault);
     else
         reader.setDevice(&device);
 }
 
 void start(QXmlStreamReader &reader, const QByteArray &document)
 {
+    QBuffer buffer;
+    buffer.setData(document);
+    buffer.open(QIODevice::ReadOnly);
     reader.clear();
-    if (declaresEntity(document))
-        refuseEntities(reader);
+    if (const char *fault = faultIn(buffer))
+        refuse(reader, fault);
     else
         reader.addData(document);
 }

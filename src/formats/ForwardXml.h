@@ -24,7 +24,7 @@ namespace ForwardXml
 /// Makes `reader` parse the document in `device` from the current position. The device must be
 /// random-access and must outlive the reader. Documents that declare entities are rejected with an
 /// error, because Qt 4 expands entities without a limit. A document of 600 bytes could therefore
-/// exhaust the memory.
+/// exhaust the memory. Documents in an encoding that could hide a declaration are rejected, too.
 void start(QXmlStreamReader &reader, QIODevice &device);
 /// Makes `reader` parse `document` in the same way.
 void start(QXmlStreamReader &reader, const QByteArray &document);

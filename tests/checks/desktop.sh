@@ -4,7 +4,11 @@
 # is 77, which CTest reports as skipped.
 . "$(dirname "$0")/common.sh"
 entry=desktop/ussd-dashboard.desktop
-metainfo=desktop/org.ussd_dashboard.dashboard.metainfo.xml
+template=desktop/ussd-dashboard.metainfo.xml.in
+placeholder=$(sed -n 's/^set(USSD_APPLICATION_ID "\(.*\)" CACHE.*/\1/p' CMakeLists.txt)
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+metainfo=$folder/$placeholder.metainfo.xml
 skipped=
 
 # validate COMMAND FILE: reports the validator's output if the validator rejects the file.
@@ -29,17 +33,26 @@ check_icon() {
 }
 
 validate desktop-file-validate "$entry"
+sed "s/@USSD_APPLICATION_ID@/$placeholder/" "$template" >"$metainfo"
+case $placeholder in
+org.example.*) ;;
+*) complain "CMakeLists.txt: the identifier '$placeholder' is not in a reserved domain" ;;
+esac
 validate "appstreamcli validate --pedantic --no-net" "$metainfo"
 for icon in desktop/icons/*.png; do
     check_icon "$icon"
 done
 version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
-grep -q "<release version=\"$version\"" "$metainfo" || complain "$metainfo: no release $version"
+grep -q "<release version=\"$version\"" "$metainfo" || complain "$template: no release $version"
 head -n 1 debian/changelog | grep -qF "($version)" || complain "debian/changelog: the version is not $version"
 program=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' "$entry" | sort -u)
 [ "$program" = ussd-dashboard ] || complain "$entry: starts $program"
 window_entry=$(sed -n 's/.*setDesktopFileName(QLatin1String("\(.*\)")).*/\1/p' src/dashboard/Program.cpp)
 [ "$window_entry.desktop" = "${entry##*/}" ] || complain "src/dashboard/Program.cpp: windows belong to the menu entry '$window_entry'"
-grep -q "<binary>$program</binary>" "$metainfo" || complain "$metainfo: does not provide $program"
+grep -q "<binary>$program</binary>" "$metainfo" || complain "$template: does not provide $program"
+nobody=$(sed -n "s/^NOBODY='\(.*\)'/\1/p" scripts/package.sh)
+for file in debian/control debian/changelog; do
+    grep -qF "${nobody:-no placeholder}" "$file" || complain "$file: not the maintainer that scripts/package.sh replaces"
+done
 [ "$faults" -gt 0 ] || [ -z "$skipped" ] || { printf 'not installed:%s\n' "$skipped"; exit 77; }
 finish

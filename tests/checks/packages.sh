@@ -8,8 +8,8 @@ section=
 while read -r package rest; do
     case "$package" in
     '' | '#'*) continue ;;
-    '[run]' | '[qt5]' | '[qt6]' | '[test]' | '[test-qt5]' | '[test-qt6]' | '[check]' | '[validate]' \
-        | '[package]')
+    '[run]' | '[qt5]' | '[qt6]' | '[test]' | '[test-qt5]' | '[test-qt6]' | '[check]' | '[tidy]' \
+        | '[validate]' | '[package]')
         section=$package
         continue
         ;;
@@ -23,7 +23,7 @@ while read -r package rest; do
     [ -z "${seen[$package]:-}" ] || complain "packages.txt: $package stands there twice"
     seen[$package]=1
     case $section in
-    '[check]' | '[qt6]' | '[test-qt6]' | '[validate]' | '[package]') continue ;; # not required by ./test by default
+    '[check]' | '[tidy]' | '[qt6]' | '[test-qt6]' | '[validate]' | '[package]') continue ;; # not required by ./test by default
     esac
     state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)
     [ "$state" = installed ] || complain "packages.txt: $package is not installed"

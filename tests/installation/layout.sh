@@ -26,10 +26,13 @@ is_there bin/ussd bin/ussd-dashboard bin/ussd-config bin/ussd-provision \
     share/ussd-dashboard/schemas/ussd-configuration.rng share/ussd-dashboard/scenarios/default.scenario \
     share/applications/ussd-dashboard.desktop share/icons/hicolor/scalable/apps/ussd-dashboard.svg \
     share/icons/hicolor/48x48/apps/ussd-dashboard.png \
-    share/metainfo/org.ussd_dashboard.dashboard.metainfo.xml \
     share/man/man1/ussd.1 share/bash-completion/completions/ussd share/zsh/vendor-completions/_ussd \
     share/doc/ussd-ui-plugin/LICENSE share/doc/ussd-ui-plugin/CHANGELOG.md \
     include/tksv/tksv.h include/ussd-ui-plugin/IUIPlugin.h
+
+id=$(sed -n 's/^USSD_APPLICATION_ID:STRING=//p' "$build/CMakeCache.txt")
+is_there "share/metainfo/$id.metainfo.xml"
+grep -qs "<id>$id</id>" "$prefix/share/metainfo/$id.metainfo.xml" || complain "the description has another identifier than its file name"
 
 for file in USSDPluginConfig.xml ussdsysprofile.xml; do
     link=$prefix/$lib/ussd-dashboard/plugins/USSDUIPlugin/$file

@@ -27,6 +27,8 @@ private slots:
     void documentWithEntitiesIsRefused_data();
     void documentWithEntitiesIsRefused();
     void documentWithEntitiesInUtf16IsRefused();
+    void encodings_data();
+    void encodings();
     void characterReferencesAreReplaced();
     void brokenDetectionIsOff_data();
     void brokenDetectionIsOff();
@@ -281,6 +283,37 @@ void ConfigSectionsTest::documentWithEntitiesInUtf16IsRefused()
     writeConfig(QByteArray(reinterpret_cast<const char *>(marked.utf16()), 2 * marked.size()));
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
     QVERIFY(timesLogged("The document declares entities, which are not supported.") > 0);
+}
+
+void ConfigSectionsTest::encodings_data()
+{
+    QTest::addColumn<QByteArray>("declaration");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("none") << QByteArray() << true;
+    QTest::newRow("without encoding") << QByteArray("<?xml version='1.0'?>") << true;
+    QTest::newRow("UTF-8") << QByteArray("<?xml version='1.0' encoding='UTF-8'?>") << true;
+    QTest::newRow("Latin-9") << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-15\"?>")
+                             << true;
+    QTest::newRow("UTF-7") << QByteArray("<?xml version='1.0' encoding='UTF-7'?>"
+                                         "<!DOCTYPE a [<!ENT+AEk-TY b 'c'>]>")
+                           << false;
+    QTest::newRow("ISO-2022-JP") << QByteArray("<?xml version='1.0' encoding=\"iso-2022-jp\"?>"
+                                               "<!DOCTYPE a [<!ENT\x1b(BITY b 'c'>]>")
+                                 << false;
+    QTest::newRow("name in the version")
+        << QByteArray("<?xml version='encoding' encoding='UTF-7'?>") << false;
+    QTest::newRow("behind the first block")
+        << "<?xml version='1.0'" + QByteArray(64 * 1024, ' ') + "encoding='UTF-7'?>" << false;
+}
+
+/// Tests that a document is rejected if its encoding could hide entity declarations.
+void ConfigSectionsTest::encodings()
+{
+    QFETCH(QByteArray, declaration);
+    QFETCH(bool, isRead);
+    writeConfig(declaration + config(fourItems(), fourItems()));
+    QCOMPARE(!text(PREPAID, BALANCE, ATTR_COMMAND).isEmpty(), isRead);
+    QCOMPARE(timesLogged("The encoding of the document is not supported.") > 0, !isRead);
 }
 
 void ConfigSectionsTest::characterReferencesAreReplaced()

@@ -134,6 +134,9 @@ QString PrivateDesktop::startAccessibility()
     std::vector<std::string> command = {"env"};
     for (const char *name : names)
         command.push_back(std::string(name) + '=' + values.value(text(name)).toStdString());
+    // The launcher stores the properties in GSettings. Without the service of dconf, its default
+    // backend would immediately reset them.
+    command.push_back("GSETTINGS_BACKEND=memory");
     command.insert(command.end(), {LAUNCHER, "--launch-immediately"});
     if (!m_launcher.start(command, local(m_folder + text("/accessibility.log"))))
         return text("the launcher of the accessibility bus does not start");

@@ -11,7 +11,8 @@
 //     accessible picture FILE            saves a picture of the screen
 //
 // The patterns are regular expressions. The exit status is 1 if a pattern does not match in time.
-// The desktop passes the address of its accessibility bus in $AT_SPI_BUS_ADDRESS.
+// The desktop passes the address of its accessibility bus in $USSD_ACCESSIBILITY_BUS. The usual
+// variable, $AT_SPI_BUS_ADDRESS, would prevent programs with Qt 6.4 from publishing their widgets.
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -34,7 +35,7 @@ const int LIMIT = 15000;        // ms
 const int LOOK_AGAIN_TIME = 50; // ms
 const int SCREEN_WIDTH = 1400;
 const int SCREEN_HEIGHT = 900;
-const char BUS_VARIABLE[] = "AT_SPI_BUS_ADDRESS";
+const char BUS_VARIABLE[] = "USSD_ACCESSIBILITY_BUS";
 
 int fail(const QString &text)
 {

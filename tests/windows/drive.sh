@@ -22,7 +22,7 @@ for name in openbox xdotool weston; do
         exit 1
     }
 done
-[ -n "${AT_SPI_BUS_ADDRESS:-}" ] || exec "$accessible" desktop "$0" "$build" "$pictures"
+[ -n "${USSD_ACCESSIBILITY_BUS:-}" ] || exec "$accessible" desktop "$0" "$build" "$pictures"
 
 number=0
 pid=
