@@ -49,7 +49,7 @@ private slots:
     void codesOfAnUnknownContract();
     void codesOfThePlainFolder();
     void ownCodesAreAdded();
-    void everyCodeWithAPlaceIsKnown();
+    void everyCodeIsATemplate();
     void namesFollowTheLanguage();
     void aReplyToTheBalanceCodeIsKept();
     void otherRepliesAreNotKept();
@@ -112,8 +112,8 @@ void AccountRecorderTest::ownCodesAreAdded()
     QVERIFY(codes.all.last().isOwn);
 }
 
-/// The numbers in these codes are hidden in the history, however short they are.
-void AccountRecorderTest::everyCodeWithAPlaceIsKnown()
+/// Tests the codes that decide which digits the history hides.
+void AccountRecorderTest::everyCodeIsATemplate()
 {
     m_files.userProfiles =
         writeFile(QLatin1String("own.xml"),
@@ -122,13 +122,18 @@ void AccountRecorderTest::everyCodeWithAPlaceIsKnown()
                   "</tksvdoc>");
     QFile configuration(latin1(CONFIGURATION));
     QVERIFY(configuration.open(QIODevice::ReadOnly));
-    m_files.configuration = writeFile(QLatin1String("configuration.xml"),
-                                      configuration.readAll().replace("*101*%s#", "*191*%s#"));
-    const QStringList codes = readCodesWithPlace(m_files);
+    m_files.configuration =
+        writeFile(QLatin1String("configuration.xml"), configuration.readAll()
+                                                          .replace("*101*%s#", "*191*%s#")
+                                                          .replace("*100#", "*100*1234#")
+                                                          .replace("*102#", "*102*1234#"));
+    const QStringList codes = readTemplates(m_files);
     QVERIFY2(codes.contains(code("*140*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
     QVERIFY(codes.contains(code("*7*%s#")));
     QVERIFY2(codes.contains(code("*191*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
-    QVERIFY(!codes.contains(code("*100#")));
+    for (const char *fixed : {"*100#", "*100*1234#", "*102*1234#"})
+        QVERIFY2(codes.contains(code(fixed)), fixed);
+    QCOMPARE(codeWithoutNumbers(code("*100*1234#"), codes), QLatin1String("*100*1234#"));
     QCOMPARE(codeWithoutNumbers(code("*191*12#"), codes), QString::fromUtf8("*191*…#"));
 }
 

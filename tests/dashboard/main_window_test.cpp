@@ -173,6 +173,7 @@ void MainWindowTest::theNumbersOfTheOperatorsCodesAreHidden()
     QVERIFY2(templates.contains(QLatin1String("*106*%s#")), // a service
              qPrintable(templates.join(QLatin1Char(' '))));
     QVERIFY(!templates.contains(QLatin1String("WEATHER %s"))); // a short message
+    QVERIFY(templates.contains(QLatin1String("*100#")));
 }
 
 void MainWindowTest::aChainOfTheFirstPageIsRun()

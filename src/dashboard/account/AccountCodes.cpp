@@ -175,14 +175,19 @@ CodeFiles CodeFiles::inUse()
     return files;
 }
 
-QStringList readCodesWithPlace(const CodeFiles &files)
+QStringList readTemplates(const CodeFiles &files)
 {
     QStringList codes;
     for (const NamedCode &named : readAccountCodes(files, PaidType::Unknown).all)
         codes << named.code;
-    for (const ConfigCharge &charge : readConfigurationFile(files.configuration).charge)
+    const PluginConfig config = readConfigurationFile(files.configuration);
+    for (const ConfigCharge &charge : config.charge)
         codes << charge.command.trimmed();
-    return codes.filter(INPUT_PLACEHOLDER);
+    for (const ConfigBalance &balance : config.balance)
+        codes << balance.command.trimmed();
+    for (const ConfigMSISDN &number : config.msisdn)
+        codes << number.command.trimmed();
+    return codes;
 }
 
 AccountCodes readAccountCodes(const CodeFiles &files, PaidType type)

@@ -65,8 +65,9 @@ struct CodeFiles {
     static CodeFiles inUse();
 };
 
-/// Returns the codes with a place for a number: those with names, and those of the account windows.
-QStringList readCodesWithPlace(const CodeFiles &files);
+/// Returns the codes with names and those of the account windows. They may contain a place for a
+/// number.
+QStringList readTemplates(const CodeFiles &files);
 
 /// Reads the codes. The account codes are those of this type of contract. If the type is unknown,
 /// they are taken from the profiles. A code that needs a number is not an account code.

@@ -29,7 +29,7 @@ bool readLine(const QString &line, SentCode &sent)
 {
     const int tab = line.indexOf(QLatin1Char('\t'));
     sent.time = QDateTime::fromString(line.left(tab), Qt::ISODate);
-    sent.code = codeWithoutNumbers(line.mid(tab + 1));
+    sent.code = line.mid(tab + 1); // written without numbers
     return tab > 0 && sent.time.isValid() && isKeepable(sent.code);
 }
 
@@ -55,7 +55,7 @@ void CodeHistory::setKept(bool isKept)
 void CodeHistory::add(const QString &code)
 {
     SentCode sent;
-    sent.code = codeWithoutNumbers(code);
+    sent.code = codeWithoutNumbers(code, m_templates);
     sent.time = QDateTime::currentDateTimeUtc();
     if (!isKeepable(sent.code))
         return;
