@@ -22,6 +22,7 @@ private slots:
     void codesOfTheOperatorAreKeptWhole();
     void otherLinesAreSkipped();
     void nothingIsWrittenIfTheUserSaysSo();
+    void inventedCodesHaveTheirOwnList();
     void allIsDeleted();
     void aFullDiskIsReported();
 
@@ -161,6 +162,24 @@ void CodeHistoryTest::nothingIsWrittenIfTheUserSaysSo()
     history.add(QLatin1String("*104#"));
     QVERIFY(!QFile::exists(file()));
     QCOMPARE(history.codes().size(), 2);
+}
+
+void CodeHistoryTest::inventedCodesHaveTheirOwnList()
+{
+    CodeHistory history(file());
+    history.add(QLatin1String("*100#"));
+    history.setInvented(true);
+    QVERIFY(history.codes().isEmpty());
+    history.add(QLatin1String("*199#"));
+    QCOMPARE(codesOf(history), QStringList(QLatin1String("*199#")));
+    QVERIFY(!contentOf(file()).contains("*199#"));
+    history.setInvented(false);
+    history.add(QLatin1String("*104#"));
+    QCOMPARE(codesOf(history), QStringList({QLatin1String("*104#"), QLatin1String("*100#")}));
+    QVERIFY(!contentOf(file()).contains("*199#"));
+    history.deleteAll();
+    history.setInvented(true);
+    QVERIFY(history.codes().isEmpty());
 }
 
 void CodeHistoryTest::allIsDeleted()

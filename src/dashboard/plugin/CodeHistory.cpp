@@ -52,6 +52,15 @@ void CodeHistory::setKept(bool isKept)
         QFile::remove(m_file);
 }
 
+void CodeHistory::setInvented(bool isInvented)
+{
+    if (isInvented == m_isInvented)
+        return;
+    m_isInvented = isInvented;
+    m_codes.swap(m_others);
+    emit changed();
+}
+
 void CodeHistory::add(const QString &code)
 {
     SentCode sent;
@@ -73,6 +82,7 @@ void CodeHistory::add(const QString &code)
 void CodeHistory::deleteAll()
 {
     m_codes.clear();
+    m_others.clear();
     if (!m_file.isEmpty())
         QFile::remove(m_file);
     emit changed();
@@ -93,7 +103,7 @@ void CodeHistory::read()
 
 void CodeHistory::write()
 {
-    if (!m_isKept || m_file.isEmpty())
+    if (!m_isKept || m_isInvented || m_file.isEmpty())
         return;
     QDir().mkpath(QFileInfo(m_file).path());
     QByteArray content;

@@ -62,7 +62,15 @@ CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourite
             [controller] { controller->openFrame(PAID_TYPE_GENERAL); });
     connect(m_page, &CodesPage::remedyChosen, this,
             [actions](Remedy remedy) { actions->perform(remedy); });
+    connect(&controller->device(), &DeviceWatcher::changed, this, &CodesSetup::followDevice);
+    followDevice();
     followSettings();
+}
+
+/// Codes of a demonstration must not be offered for a SIM, and the other way round.
+void CodesSetup::followDevice()
+{
+    m_history.setInvented(m_controller->device().status().isSimulated);
 }
 
 /// A walk belongs to the SIM with which the user took it.
