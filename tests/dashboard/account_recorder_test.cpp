@@ -53,6 +53,8 @@ private slots:
     void namesFollowTheLanguage();
     void aReplyToTheBalanceCodeIsKept();
     void otherRepliesAreNotKept();
+    void anotherCodeMayChangeTheBalance_data();
+    void anotherCodeMayChangeTheBalance();
     void eachCodeTellsItsOwnValues();
     void aLowBalanceIsReportedOnce();
     void aLimitIsNeeded();
@@ -168,6 +170,41 @@ void AccountRecorderTest::otherRepliesAreNotKept()
     menu.asksForAnswer = true;
     m_recorder->record(code("*100#"), menu);
     QCOMPARE(changed.size(), 0);
+}
+
+void AccountRecorderTest::anotherCodeMayChangeTheBalance_data()
+{
+    QTest::addColumn<QString>("sent");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isOutdated");
+    const auto row = [](const char *sent, const char *text, bool isOutdated) {
+        QTest::newRow(*sent ? sent : "message") << code(sent) << code(text) << isOutdated;
+    };
+    row("*101*123456789012#", "Balance: 22.50 EUR", true);
+    row("*123#", "1 Day\n2 Week", true);
+    row("2", "A week booked. Balance: 7.50 EUR", true); // the answer to a menu
+    row("*199#", "", false);                            // refused
+    row("", "Balance: 7.50 EUR", false);                // not a reply
+    row("*102#", "Your number is +999551846203", false);
+    row("*104#", "1.8 GB of 2 GB left", false);
+    row("*103#", "Prepaid account", false); // the dashboard may send this query by itself
+}
+
+/// Tests that the balance is marked and never replaced with the amount in such a reply.
+void AccountRecorderTest::anotherCodeMayChangeTheBalance()
+{
+    QFETCH(QString, sent);
+    QFETCH(QString, text);
+    QFETCH(bool, isOutdated);
+    m_recorder->record(sent, reply(text.toUtf8().constData()));
+    QVERIFY(!m_store->isOutdated()); // no balance was asked
+    m_recorder->record(code("*100#"), reply("Balance: 12.50 EUR"));
+    QVERIFY(!m_store->isOutdated());
+    m_recorder->record(sent, reply(text.toUtf8().constData()));
+    QCOMPARE(m_store->isOutdated(), isOutdated);
+    QCOMPARE(m_store->newestBalance().reading.amount->units, qint64(125000));
+    m_recorder->record(code("*100#"), reply("Please try later."));
+    QVERIFY(!m_store->isOutdated()); // the card shows these words
 }
 
 void AccountRecorderTest::eachCodeTellsItsOwnValues()

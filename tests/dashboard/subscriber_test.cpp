@@ -45,6 +45,7 @@ private slots:
     void theBalanceIsNotAskedAbroadOrWhileBlocked_data();
     void theBalanceIsNotAskedAbroadOrWhileBlocked();
     void theBalanceIsNotAskedWhileTheUserTypes();
+    void aPackBoughtMarksTheBalance();
     void olderNetworksAreAllowedAndTakenBack();
 
 private:
@@ -200,6 +201,31 @@ void SubscriberTest::theBalanceIsNotAskedWhileTheUserTypes()
     QVERIFY(!look(0));
     QCOMPARE(ask("1"), QLatin1String("One"));
     QVERIFY(look(0));
+}
+
+/* ---- the balance on Home ----------------------------------------------------------------- */
+
+/// Tests that Home neither shows the amount in the reply to another code nor asks by itself.
+void SubscriberTest::aPackBoughtMarksTheBalance()
+{
+    useNetwork(IMSI, "Balance=12.50\nCurrency=EUR",
+               "[*100#]\nReply=Your balance is {balance}.\n"
+               "[*124*1#]\nReply=Booked. Your balance is {balance}.\nCredit=-10.00");
+    open();
+    ask("*100#");
+    QCOMPARE(ask("*124*1#"), QLatin1String("Booked. Your balance is 2.50 EUR."));
+    window().showPage(PageId::Home);
+    drainEvents();
+    const QLabel *when = window().findChild<QLabel *>(QLatin1String("Dashboard_BalanceAsked"));
+    const QLabel *amount = window().findChild<QLabel *>(QLatin1String("Dashboard_BalanceAmount"));
+    QTRY_VERIFY2(when->text().endsWith(QLatin1String("It may have changed since.")),
+                 qPrintable(when->text()));
+    QVERIFY(amount->text().contains(QLatin1String("12.50")));
+    shownButton("Dashboard_AskButton")->click();
+    QTRY_VERIFY(amount->text().contains(QLatin1String("2.50")) &&
+                !amount->text().contains(QLatin1String("12.50")));
+    QVERIFY(!when->text().contains(QLatin1String("changed")));
+    QCOMPARE(asked(), 2);
 }
 
 /* ---- modems on 4G ------------------------------------------------------------------------ */

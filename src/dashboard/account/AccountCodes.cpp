@@ -102,6 +102,7 @@ QString firstOfKind(const QList<NamedCode> &codes, CodeKind kind)
 
 void takeConfiguration(const PluginConfig &config, PaidType type, AccountCodes *codes)
 {
+    codes->paidType = config.prePostDiffer.command.trimmed();
     if (type == PaidType::Unknown)
         return;
     const int index = type == PaidType::Prepaid ? 0 : 1;
@@ -162,7 +163,7 @@ bool AccountCodes::operator==(const AccountCodes &other) const
             return false;
     }
     return balance == other.balance && number == other.number && validity == other.validity &&
-           data == other.data && hasTopUp == other.hasTopUp;
+           data == other.data && paidType == other.paidType && hasTopUp == other.hasTopUp;
 }
 
 CodeFiles CodeFiles::inUse()

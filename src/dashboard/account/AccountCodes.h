@@ -47,6 +47,7 @@ struct AccountCodes {
     QString number;
     QString validity;
     QString data;
+    QString paidType; // the code of the prepaid/postpaid query
     bool hasTopUp = false;
     QList<NamedCode> all; // without duplicates; the operator's codes precede the user's codes
 
