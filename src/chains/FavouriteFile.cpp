@@ -223,6 +223,7 @@ JsonObject *objectOf(const NetworkFavourites &network)
 
 const char *const FAVOURITE_FILE = "favourites.json";
 const char *const UNKNOWN_NETWORK = "unknown";
+const char *const DEMONSTRATION_NETWORK = "demonstration";
 const std::size_t LARGEST_FAVOURITE_FILE = 1024UL * 1024;
 
 const Chain *NetworkFavourites::chain(const std::string &name) const

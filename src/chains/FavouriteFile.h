@@ -34,7 +34,7 @@ struct NetworkFavourites {
 
 /** The contents of the file of the favourites; docs/ussd.md describes the format. */
 struct FavouriteFile {
-    std::map<std::string, NetworkFavourites> networks; // by MCC and MNC, or "unknown"
+    std::map<std::string, NetworkFavourites> networks; // by MCC and MNC, or a name below
     bool isWhole = true; // false if something in the file could not be read
 
     /// Reads everything in the file that can be read. An empty string is an empty file.
@@ -46,6 +46,8 @@ struct FavouriteFile {
 extern const char *const FAVOURITE_FILE;
 /// The key of favourites that were selected without a known home network.
 extern const char *const UNKNOWN_NETWORK;
+/// The key of favourites that were selected in a demonstration, whatever its home network is.
+extern const char *const DEMONSTRATION_NETWORK;
 /// The size above which the file is not read, in bytes.
 extern const std::size_t LARGEST_FAVOURITE_FILE;
 

@@ -61,15 +61,17 @@ bool readItems(Program &program, std::vector<Item> &items)
     return true;
 }
 
-/// Returns true if the favourite was selected for the home network of the SIM. In another network,
-/// the same code may buy something.
+/// Returns true if the favourite was selected for the home network of the SIM, or in a
+/// demonstration if the network is simulated. In another network, the same code may buy something.
 bool isOfSim(const Item &item, const TKSV_DeviceInfo &device)
 {
     const std::string code = device.simOperatorCode;
     const std::string imsi = device.imsi;
+    if (device.backend == TKSV_BACKEND_SIMULATOR)
+        return item.network == Chains::DEMONSTRATION_NETWORK;
     if (!code.empty())
         return item.network == code;
-    if (device.backend == TKSV_BACKEND_SIMULATOR || imsi.empty())
+    if (imsi.empty())
         return item.network == Chains::UNKNOWN_NETWORK;
     const std::size_t digits = item.network.size();
     return digits >= SHORTEST_NETWORK && imsi.compare(0, digits, item.network) == 0;

@@ -14,7 +14,7 @@ namespace
 {
 
 const char FAVOURITES[] =
-    R"({"version":1,"networks":{"unknown":{"favourites":[{"name":"Balance","code":"*100#"},
+    R"({"version":1,"networks":{"demonstration":{"favourites":[{"name":"Balance","code":"*100#"},
 {"chain":"Way"},{"name":"Cold","code":"*124#"},{"name":"To","code":"*12%s#"}],"chains":[
 {"name":"Way","code":"*125#","steps":[{"key":"2","text":"Second"},{"key":"1","text":"Deeper"}]},
 {"name":"Changed","code":"*125#","steps":[{"key":"2","text":"Second"},{"key":"1","text":"Deep"}]},
@@ -22,7 +22,8 @@ const char FAVOURITES[] =
 {"name":"Gone","code":"*100#","steps":[{"key":"1","text":"First"}]},
 {"name":"Double","code":"*100#","steps":[{"key":"1","text":"First"}]},
 {"name":"double","code":"*100#","steps":[{"key":"1","text":"First"}]}]},
-"26201":{"favourites":[{"name":"Foreign","code":"*100#"}],"chains":[]}}})";
+"26201":{"favourites":[{"name":"Foreign","code":"*100#"}],"chains":[]},
+"unknown":{"favourites":[{"name":"Unread","code":"*100#"}],"chains":[]}}})";
 
 const char DEMONSTRATION[] = "Demonstration: the network is invented; nothing is sent.\n";
 
@@ -469,12 +470,12 @@ void UssdProgramTest::favouritesArePrinted()
     const Run result = run("run --list");
     COMPARE_EXIT(result, EXIT_DONE);
     QVERIFY2(result.out.startsWith(QString::fromUtf8("Foreign\t*100#\t26201\n"
-                                                     "Balance\t*100#\tunknown\n")),
+                                                     "Balance\t*100#\tdemonstration\n")),
              qPrintable(result.out));
-    QVERIFY(result.out.contains(QString::fromUtf8("Way\t*125# › 2 › 1\tunknown\n")));
+    QVERIFY(result.out.contains(QString::fromUtf8("Way\t*125# › 2 › 1\tdemonstration\n")));
     QCOMPARE(result.error, QString()); // no device is used
     const QList<QJsonObject> objects = objectsIn(run("run --list --json").out);
-    QCOMPARE(objects.size(), 10); // one object for each
+    QCOMPARE(objects.size(), 11); // one object for each
     QCOMPARE(objects.first().value(latin1("name")).toString(), latin1("Foreign"));
     QCOMPARE(objects.first().value(latin1("network")).toString(), latin1("26201"));
 }
@@ -570,6 +571,8 @@ void UssdProgramTest::aFavouriteThatCannotBeRun_data()
                                << latin1("There is no favourite");
     QTest::newRow("another network")
         << words("run Foreign") << latin1("'Foreign' belongs to another home network.");
+    QTest::newRow("SIM without a known network")
+        << words("run Unread") << latin1("'Unread' belongs to another home network.");
     QTest::newRow("without its number") << words("run To") << latin1("'To' needs a number");
     QTest::newRow("number with letters") << words("run To 4a") << latin1("'To' needs a number");
     QTest::newRow("twice") << words("run Double") << latin1("several favourites 'Double'");
@@ -588,7 +591,7 @@ void UssdProgramTest::aFavouriteThatCannotBeRun()
 
 void UssdProgramTest::aDamagedFileOfFavouritesIsReported()
 {
-    writeFavourites("{\"version\":1,\"networks\":{\"unknown\":{\"favourites\":"
+    writeFavourites("{\"version\":1,\"networks\":{\"demonstration\":{\"favourites\":"
                     "[7,{\"name\":\"Balance\",\"code\":\"*100#\"}]}}}");
     const Run result = run("run Balance");
     COMPARE_EXIT(result, EXIT_DONE);

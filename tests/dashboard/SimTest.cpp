@@ -52,10 +52,10 @@ bool SimTest::configure(const char *anchor, const char *before, const char *afte
     return m_library->change(QLatin1String("USSDPluginConfig.xml"), anchor, before, after);
 }
 
-void SimTest::openDashboard()
+void SimTest::openDashboard(DashboardSettings *settings)
 {
     m_plugin.reset(new LoadedPlugin);
-    m_window.reset(new MainWindow(m_plugin.data(), nullptr));
+    m_window.reset(new MainWindow(m_plugin.data(), settings));
     m_window->showPage(PageId::Codes);
     m_window->show();
     const PluginFailure failure = m_window->loadPlugin();

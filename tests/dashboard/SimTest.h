@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "device/DashboardSettings.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/LoadedPlugin.h"
 #include "plugin/PrivatePluginFolder.h"
@@ -26,7 +27,8 @@ protected:
     void closeDashboard();
     /// Replaces a string in the plug-in's configuration. Must be called before openDashboard().
     bool configure(const char *anchor, const char *before, const char *after);
-    void openDashboard();
+    /// Opens the window. If `settings` is null, nothing is stored.
+    void openDashboard(Dashboard::DashboardSettings *settings = nullptr);
     /// Selects a simulated network with this IMSI and with the given [Network] keys and codes.
     void useNetwork(const char *imsi, const char *keys = "", const char *codes = "");
 

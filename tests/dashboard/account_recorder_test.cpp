@@ -49,10 +49,12 @@ private slots:
     void codesOfAnUnknownContract();
     void codesOfThePlainFolder();
     void ownCodesAreAdded();
-    void everyCodeWithAPlaceIsKnown();
+    void everyCodeIsATemplate();
     void namesFollowTheLanguage();
     void aReplyToTheBalanceCodeIsKept();
     void otherRepliesAreNotKept();
+    void anotherCodeMayChangeTheBalance_data();
+    void anotherCodeMayChangeTheBalance();
     void eachCodeTellsItsOwnValues();
     void aLowBalanceIsReportedOnce();
     void aLimitIsNeeded();
@@ -112,8 +114,8 @@ void AccountRecorderTest::ownCodesAreAdded()
     QVERIFY(codes.all.last().isOwn);
 }
 
-/// The numbers in these codes are hidden in the history, however short they are.
-void AccountRecorderTest::everyCodeWithAPlaceIsKnown()
+/// Tests the codes that decide which digits the history hides.
+void AccountRecorderTest::everyCodeIsATemplate()
 {
     m_files.userProfiles =
         writeFile(QLatin1String("own.xml"),
@@ -122,13 +124,18 @@ void AccountRecorderTest::everyCodeWithAPlaceIsKnown()
                   "</tksvdoc>");
     QFile configuration(latin1(CONFIGURATION));
     QVERIFY(configuration.open(QIODevice::ReadOnly));
-    m_files.configuration = writeFile(QLatin1String("configuration.xml"),
-                                      configuration.readAll().replace("*101*%s#", "*191*%s#"));
-    const QStringList codes = readCodesWithPlace(m_files);
+    m_files.configuration =
+        writeFile(QLatin1String("configuration.xml"), configuration.readAll()
+                                                          .replace("*101*%s#", "*191*%s#")
+                                                          .replace("*100#", "*100*1234#")
+                                                          .replace("*102#", "*102*1234#"));
+    const QStringList codes = readTemplates(m_files);
     QVERIFY2(codes.contains(code("*140*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
     QVERIFY(codes.contains(code("*7*%s#")));
     QVERIFY2(codes.contains(code("*191*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
-    QVERIFY(!codes.contains(code("*100#")));
+    for (const char *fixed : {"*100#", "*100*1234#", "*102*1234#"})
+        QVERIFY2(codes.contains(code(fixed)), fixed);
+    QCOMPARE(codeWithoutNumbers(code("*100*1234#"), codes), QLatin1String("*100*1234#"));
     QCOMPARE(codeWithoutNumbers(code("*191*12#"), codes), QString::fromUtf8("*191*…#"));
 }
 
@@ -163,6 +170,41 @@ void AccountRecorderTest::otherRepliesAreNotKept()
     menu.asksForAnswer = true;
     m_recorder->record(code("*100#"), menu);
     QCOMPARE(changed.size(), 0);
+}
+
+void AccountRecorderTest::anotherCodeMayChangeTheBalance_data()
+{
+    QTest::addColumn<QString>("sent");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isOutdated");
+    const auto row = [](const char *sent, const char *text, bool isOutdated) {
+        QTest::newRow(*sent ? sent : "message") << code(sent) << code(text) << isOutdated;
+    };
+    row("*101*123456789012#", "Balance: 22.50 EUR", true);
+    row("*123#", "1 Day\n2 Week", true);
+    row("2", "A week booked. Balance: 7.50 EUR", true); // the answer to a menu
+    row("*199#", "", false);                            // refused
+    row("", "Balance: 7.50 EUR", false);                // not a reply
+    row("*102#", "Your number is +999551846203", false);
+    row("*104#", "1.8 GB of 2 GB left", false);
+    row("*103#", "Prepaid account", false); // the dashboard may send this query by itself
+}
+
+/// Tests that the balance is marked and never replaced with the amount in such a reply.
+void AccountRecorderTest::anotherCodeMayChangeTheBalance()
+{
+    QFETCH(QString, sent);
+    QFETCH(QString, text);
+    QFETCH(bool, isOutdated);
+    m_recorder->record(sent, reply(text.toUtf8().constData()));
+    QVERIFY(!m_store->isOutdated()); // no balance was asked
+    m_recorder->record(code("*100#"), reply("Balance: 12.50 EUR"));
+    QVERIFY(!m_store->isOutdated());
+    m_recorder->record(sent, reply(text.toUtf8().constData()));
+    QCOMPARE(m_store->isOutdated(), isOutdated);
+    QCOMPARE(m_store->newestBalance().reading.amount->units, qint64(125000));
+    m_recorder->record(code("*100#"), reply("Please try later."));
+    QVERIFY(!m_store->isOutdated()); // the card shows these words
 }
 
 void AccountRecorderTest::eachCodeTellsItsOwnValues()

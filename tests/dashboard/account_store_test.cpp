@@ -138,6 +138,7 @@ private slots:
     void textsKeepAmountsAndDates_data();
     void textsKeepAmountsAndDates();
     void aDayCountsFallsAndRises();
+    void anOutdatedBalanceIsRemembered();
     void oldEntriesGo();
     void withoutHistoryNothingIsWritten();
     void theDemonstrationIsNotStored();
@@ -263,6 +264,33 @@ void AccountStoreTest::aDayCountsFallsAndRises()
     QCOMPARE(days.at(1).falls, qint64(50000));
     QCOMPARE(days.at(1).rises, qint64(100000));
     QCOMPARE(days.at(2).last.units, qint64(120000));
+}
+
+void AccountStoreTest::anOutdatedBalanceIsRemembered()
+{
+    QDateTime now = day(0);
+    const auto open = [&](AccountStore &store) {
+        store.setClock([&now] { return now; });
+        store.setSim(sim(), AccountStore::Keeping::InFile);
+    };
+    {
+        AccountStore store(m_file);
+        open(store);
+        store.add(balance("12.50", 0));
+        store.setOutdated(true);
+    }
+    AccountStore store(m_file);
+    open(store);
+    QVERIFY(store.isOutdated());
+    store.setSim(QLatin1String("other"), AccountStore::Keeping::InFile);
+    QVERIFY(!store.isOutdated());
+    store.setSim(sim(), AccountStore::Keeping::InFile);
+    now = day(0).addMonths(13);
+    store.add(balance("9.00", 400));
+    QVERIFY(!store.isOutdated()); // its time is over, like that of the entry
+    store.setOutdated(true);
+    store.removeAll();
+    QVERIFY(!store.isOutdated());
 }
 
 void AccountStoreTest::oldEntriesGo()

@@ -19,8 +19,10 @@ private slots:
     void theFileIsPrivate();
     void onlyFiftyAreKept();
     void noNumberIsOnTheDisk();
+    void codesOfTheOperatorAreKeptWhole();
     void otherLinesAreSkipped();
     void nothingIsWrittenIfTheUserSaysSo();
+    void inventedCodesHaveTheirOwnList();
     void allIsDeleted();
     void aFullDiskIsReported();
 
@@ -57,6 +59,10 @@ void CodeHistoryTest::numbersAreHidden_data()
     row("*140*123#", "*140*%s#", "*140*…#");
     row("*140*12#", "*150*%s#|*140*%s#", "*140*…#");
     row("*1000*2024#", "*1000*2024#", "*1000*2024#");
+    row("*100*1234#", "*100*%s#|*100*1234#", "*100*1234#"); // a code of the operator
+    row("*100*1235#", "*100*%s#|*100*1234#", "*100*…#");
+    row("*123456#", "*123456#", "*123456#");
+    row("*123456#", "", "*…#");
     row("01701234567", "", "…");
     row("*140*…#", "", "*140*…#");
 }
@@ -122,12 +128,27 @@ void CodeHistoryTest::noNumberIsOnTheDisk()
     QCOMPARE(history.codes().size(), 2); // answers and phone numbers are not codes
 }
 
+void CodeHistoryTest::codesOfTheOperatorAreKeptWhole()
+{
+    const QStringList sent = {QLatin1String("*100*1234#"), QLatin1String("*123456#")};
+    {
+        CodeHistory history(file());
+        history.setTemplates(sent);
+        for (const QString &code : sent)
+            history.add(code);
+        history.add(QLatin1String("*100*1235#")); // typed
+        QCOMPARE(codesOf(history).first(), QString::fromUtf8("*100*…#"));
+    }
+    const CodeHistory again(file());
+    QCOMPARE(codesOf(again).mid(1), QStringList({sent.last(), sent.first()}));
+}
+
 void CodeHistoryTest::otherLinesAreSkipped()
 {
     const QString path =
         writeFile(QLatin1String("history"), "rubbish\n2026-11-22T10:00:00Z\t*100#\n"
                                             "2026-11-22T10:00:00Z\tno code\nno time\t*101#\n\n"
-                                            "2026-11-22T10:00:00Z\t*102*12345678#\n");
+                                            "2026-11-22T10:00:00Z\t*102*…#\n");
     const CodeHistory history(path);
     QCOMPARE(codesOf(history), QStringList(QLatin1String("*100#")) << QString::fromUtf8("*102*…#"));
 }
@@ -141,6 +162,24 @@ void CodeHistoryTest::nothingIsWrittenIfTheUserSaysSo()
     history.add(QLatin1String("*104#"));
     QVERIFY(!QFile::exists(file()));
     QCOMPARE(history.codes().size(), 2);
+}
+
+void CodeHistoryTest::inventedCodesHaveTheirOwnList()
+{
+    CodeHistory history(file());
+    history.add(QLatin1String("*100#"));
+    history.setInvented(true);
+    QVERIFY(history.codes().isEmpty());
+    history.add(QLatin1String("*199#"));
+    QCOMPARE(codesOf(history), QStringList(QLatin1String("*199#")));
+    QVERIFY(!contentOf(file()).contains("*199#"));
+    history.setInvented(false);
+    history.add(QLatin1String("*104#"));
+    QCOMPARE(codesOf(history), QStringList({QLatin1String("*104#"), QLatin1String("*100#")}));
+    QVERIFY(!contentOf(file()).contains("*199#"));
+    history.deleteAll();
+    history.setInvented(true);
+    QVERIFY(history.codes().isEmpty());
 }
 
 void CodeHistoryTest::allIsDeleted()

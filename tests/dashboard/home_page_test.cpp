@@ -77,6 +77,7 @@ private slots:
     void openingSendsNothing();
     void theBalanceIsShown();
     void whatWasNotReadIsShownInItsOwnWords();
+    void aBalanceThatMayHaveChangedSaysSo();
     void anOldBalanceShowsItsAge();
     void theReplyCanBeShown();
     void tilesShowTheirValues();
@@ -197,6 +198,28 @@ void HomePageTest::whatWasNotReadIsShownInItsOwnWords()
     drainEvents();
     QCOMPARE(textOf("Dashboard_BalanceReply"), QLatin1String("See your bill\nfor the rest\nthird"));
     QCOMPARE(textOf("Dashboard_BalanceAmount"), QString());
+}
+
+void HomePageTest::aBalanceThatMayHaveChangedSaysSo()
+{
+    const QLatin1String note("It may have changed since.");
+    open();
+    record("*100#", "Balance: 12.50 EUR");
+    drainEvents();
+    QVERIFY(!nameOf("Dashboard_BalanceCard").contains(note));
+    record("*124*1#", "A gigabyte booked. New balance: 2.50 EUR");
+    drainEvents();
+    QVERIFY(textOf("Dashboard_BalanceAmount").contains(QLatin1String("12.50")));
+    const QString name = nameOf("Dashboard_BalanceCard");
+    QVERIFY2(name.contains(QLatin1String("Asked today at")) && name.contains(note),
+             qPrintable(name));
+    QVERIFY(textOf("Dashboard_BalanceAsked").contains(note));
+    QCOMPARE(m_page->findChild<QPushButton *>(QLatin1String("Dashboard_AskButton"))->text(),
+             QLatin1String("Ask again"));
+    QVERIFY(m_actions.done.isEmpty()); // nothing is sent by itself
+    record("*100#", "Balance: 2.50 EUR");
+    drainEvents();
+    QVERIFY(!textOf("Dashboard_BalanceAsked").contains(note));
 }
 
 void HomePageTest::anOldBalanceShowsItsAge()

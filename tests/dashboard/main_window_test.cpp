@@ -175,6 +175,7 @@ void MainWindowTest::theNumbersOfTheOperatorsCodesAreHidden()
     QVERIFY2(templates.contains(QLatin1String("*106*%s#")), // a service
              qPrintable(templates.join(QLatin1Char(' '))));
     QVERIFY(!templates.contains(QLatin1String("WEATHER %s"))); // a short message
+    QVERIFY(templates.contains(QLatin1String("*100#")));
 }
 
 void MainWindowTest::aChainOfTheFirstPageIsRun()
@@ -182,7 +183,7 @@ void MainWindowTest::aChainOfTheFirstPageIsRun()
     QVERIFY(QDir().mkpath(QFileInfo(Favourites::userFile()).path()));
     QFile file(Favourites::userFile());
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("{\"version\":1,\"networks\":{\"unknown\":{\"chains\":[{\"name\":\"Way\",\"code\":"
+    file.write("{\"version\":1,\"networks\":{\"demonstration\":{\"chains\":[{\"name\":\"Way\",\"code\":"
                "\"*123#\",\"steps\":[{\"key\":\"2\",\"text\":\"Second\"}]}]}}}");
     file.close();
     m_window->showPage(PageId::Home);

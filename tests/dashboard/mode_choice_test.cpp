@@ -149,6 +149,8 @@ void ModeChoiceTest::aDemonstrationStoresNothing()
     tell(WITH_OLDER, false, "", true);
     QVERIFY(choice().canRestore());
     QVERIFY(m_settings->modesBefore(QString()).isEmpty());
+    tell(WITH_OLDER);
+    QVERIFY(!choice().canRestore()); // a modem
 }
 
 void ModeChoiceTest::aFailureIsReported()

@@ -2,15 +2,18 @@
 
 #include <cstring>
 
+#include "account/Favourites.h"
 #include "base/DashboardText.h"
 #include "DeviceTest.h"
 #include "IUSSD.h"
+#include "plugin/CodeHistory.h"
 #include "plugin/GeneralWindow.h"
 #include "PluginFolderChoice.h"
 #include "sim/OperatorCodes.h"
 #include "sim/PaidTypeFinder.h"
 #include "sim/SimWindows.h"
 #include "window/DeviceMenu.h"
+#include "window/HomeSetup.h"
 
 using namespace Dashboard;
 
@@ -31,6 +34,7 @@ private slots:
     void aModemHasNoPresetsOfAnotherOperator();
     void aDemonstrationHasItsPresets();
     void thePresetsGoWithTheDemonstration();
+    void nothingOfADemonstrationReachesASim();
     void openingSendsNothing();
     void theFirstOwnCodesAreShownAtOnce();
 
@@ -62,6 +66,7 @@ private:
     bool waitForSettling();
     void useIntegratorsFolder();
     void send(const char *code);
+    QStringList recentCodes();
 };
 
 void ModemWindowTest::tearDown()
@@ -120,6 +125,19 @@ void ModemWindowTest::send(const char *code)
     QVERIFY(page().send(QLatin1String(code)));
     QVERIFY(fakeSdkWaitIdle());
     drainEvents();
+}
+
+/// Returns the texts of the chips with the codes that were sent last.
+QStringList ModemWindowTest::recentCodes()
+{
+    drainEvents();
+    QStringList codes;
+    for (const QPushButton *chip :
+         window().findChildren<QPushButton *>(QLatin1String("Dashboard_RecentCode"))) {
+        if (!chip->isHidden())
+            codes << QString(chip->text()).remove(QChar(0x2066)).remove(QChar(0x2069)).trimmed();
+    }
+    return codes;
 }
 
 // ---- what is shown -------------------------------------------------------------------------
@@ -197,6 +215,40 @@ void ModemWindowTest::thePresetsGoWithTheDemonstration()
     QVERIFY(window().operatorCodes().areAbsent());
     tell(demonstration());
     QTRY_VERIFY(presets() > 5);
+}
+
+/// Tests a SIM whose home network is unknown, because its favourites used to be those of the
+/// demonstration.
+void ModemWindowTest::nothingOfADemonstrationReachesASim()
+{
+    DeviceTest::tearDown();
+    QFile::remove(Favourites::userFile());
+    QFile::remove(CodeHistory::fileOfUser());
+    setUp();
+    fakeSdkSetAnswer(fakeReply(u"Done."));
+    tell(demonstration());
+    loadPlugin();
+    window().showPage(PageId::Codes);
+    send("*199#");
+    QCOMPARE(recentCodes(), QStringList(QLatin1String("*199#")));
+    Favourites &favourites = window().findChild<HomeSetup *>()->favourites();
+    QVERIFY(favourites.keep({"Way", "*123#", {{"1", "First"}}}));
+    QCOMPARE(favourites.chains().size(), 1);
+    QVERIFY(!QFile::exists(CodeHistory::fileOfUser()));
+
+    TKSV_DeviceInfo unknown = modemWithSim();
+    unknown.simOperatorCode[0] = 0;
+    tell(unknown);
+    QVERIFY(window().operatorCodes().network().isEmpty());
+    QCOMPARE(favourites.chains().size(), 0);
+    QTRY_VERIFY(page().commandEdit() && page().commandEdit()->isEnabled());
+    send("*7#");
+    QCOMPARE(recentCodes(), QStringList(QLatin1String("*7#")));
+    QVERIFY(contentOf(CodeHistory::fileOfUser()).contains("*7#"));
+    tell(demonstration());
+    QCOMPARE(favourites.chains().size(), 1);
+    QCOMPARE(recentCodes(), QStringList(QLatin1String("*199#")));
+    QVERIFY(!contentOf(CodeHistory::fileOfUser()).contains("*199#"));
 }
 
 void ModemWindowTest::openingSendsNothing()

@@ -7,7 +7,9 @@
 #include "account/Favourites.h"
 #include "DeviceTest.h"
 #include "pages/CodesPage.h"
+#include "plugin/CodeHistory.h"
 #include "plugin/GeneralWindow.h"
+#include "plugin/ProfileBackup.h"
 #include "window/MessageParts.h"
 
 using namespace Dashboard;
@@ -78,6 +80,7 @@ private slots:
     void aSessionLeavesNoSecretInAFile();
 
 private:
+    void saveOwnCode();
     void enterPin();
     void send(const char *code, const std::u16string &reply, int type = 0);
     void say(const char *text, bool waitsForAnswer);
@@ -120,14 +123,30 @@ void PrivacyTest::say(const char *text, bool waitsForAnswer)
     drainEvents();
 }
 
+/// Saves a code of the user, as the editor does.
+void PrivacyTest::saveOwnCode()
+{
+    const QString own = QDir::homePath() + QLatin1String("/own/");
+    QVERIFY(QDir().mkpath(own));
+    fakeSdkSetUserDataDirectory(own.toStdU16String());
+    QFile profiles(ProfileBackup::ofUser().userFile());
+    QVERIFY(profiles.open(QIODevice::WriteOnly));
+    profiles.write("<tksvdoc><item><name>Mine</name><value>*199*4711#</value><readonly>false"
+                   "</readonly><showButton>false</showButton><langID></langID><desLangID>"
+                   "</desLangID></item></tksvdoc>");
+}
+
 void PrivacyTest::useEverything()
 {
+    saveOwnCode();
     enterPin();
     loadPlugin();
     window().showPage(PageId::Home);
     send("*100#", BALANCE_REPLY);
     send("*102#", NUMBER_REPLY);
     send("*101*7319462850317#", u"Voucher 7319462850317 accepted.");
+    send("*199*4711#", u"Done.");
+    send("*199*83619274#", u"Done.");
     send("*106*551846203#", u"1.00 EUR sent to 0551846203.");
     send("*123#", u"To which number?", 1);
     send("0551846203", u"Sent to +999551846203.");
@@ -164,6 +183,7 @@ void PrivacyTest::aSessionLeavesNoSecretInAFile()
     QCOMPARE(filesWith(home, "Missedcallfrom").size(), 1);
     QVERIFY(filesWith(home, "*106*").size() == 1);
     QCOMPARE(filesWith(home, "*101*%s#").size(), 1);
+    QVERIFY(contentOf(CodeHistory::fileOfUser()).contains("*199*4711#"));
     for (const char *secret : {PIN, VOUCHER, IMSI, NUMBER})
         QCOMPARE(filesWith(home, secret), QStringList());
 }

@@ -15,7 +15,7 @@ const std::chrono::seconds COMMAND_LIMIT(10);
 }
 
 FakeModem::FakeModem(const std::string &port, const ModemSettings &settings)
-    : m_port(port), m_thread(std::make_unique<LoopThread>("fake-modem"))
+    : m_port(port), m_plugin(settings.plugin), m_thread(std::make_unique<LoopThread>("fake-modem"))
 {
     ModemNews news;
     news.received = [this](const std::string &line) {

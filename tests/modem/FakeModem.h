@@ -50,6 +50,7 @@ public:
     FakeModem &operator=(const FakeModem &) = delete;
 
     const std::string &port() const { return m_port; }
+    const std::string &plugin() const { return m_plugin; }
 
     /// Switches to another network and a matching SIM card, and discards all pending requests. The
     /// daemon reads the new SIM card when the modem is plugged in again.
@@ -91,6 +92,7 @@ private:
     int count(const std::string &start) const;
 
     const std::string m_port;
+    const std::string m_plugin;
     mutable std::mutex m_mutex; // guards the next three members
     mutable std::condition_variable m_came;
     std::vector<std::string> m_received;

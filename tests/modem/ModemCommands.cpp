@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "base/Text.h"
@@ -55,7 +56,7 @@ const std::map<std::string, ModemCore::Handler> &ModemCore::handlers()
         {"+CMER", &ModemCore::accept},
         {"I", &ModemCore::fixedText},
         {"+GCAP", &ModemCore::fixedText},
-        {"+WS46", &ModemCore::fixedText},
+        {"+WS46", &ModemCore::allowedNetworks},
         {"+CLAC", &ModemCore::fixedText},
         {"+CGMI", &ModemCore::fixedText},
         {"+CGMM", &ModemCore::fixedText},
@@ -71,6 +72,7 @@ const std::map<std::string, ModemCore::Handler> &ModemCore::handlers()
         {"+CLCK", &ModemCore::facilityLock},
         {"+CREG", &ModemCore::registration},
         {"+CGREG", &ModemCore::registration},
+        {"#PSNT", &ModemCore::technology},
         {"+COPS", &ModemCore::operatorName},
         {"+CSQ", &ModemCore::signal},
         {"+CIND", &ModemCore::indicators},
@@ -99,8 +101,6 @@ AtAnswer ModemCore::fixedText(const AtCommand &command)
         {"I", "+GCAP: +CGSM,+DS,+ES"},      {"+GCAP", "+GCAP: +CGSM,+DS,+ES"},
         {"+CGMI", m_settings.manufacturer}, {"+CGMM", m_settings.model},
         {"+CGMR", m_settings.revision},     {"+CGSN", m_settings.imei}};
-    if (command.name == "+WS46")
-        return command.form == AtCommand::Test ? info("+WS46: (12,22,25)") : error();
     if (command.name != "+CLAC")
         return info(texts.at(command.name));
     AtAnswer answer;
@@ -181,9 +181,33 @@ AtAnswer ModemCore::registration(const AtCommand &command)
         return info(command.name + ": (0-2)");
     if (command.form == AtCommand::Set)
         return ok();
-    const int status = registrationStatus();
-    const std::string place = status == 2 ? "" : ",\"1234\",\"001122BB\"";
-    return info(command.name + ": 2," + std::to_string(status) + place);
+    return info(command.name + ": 2," + std::to_string(registrationStatus()) + registrationPlace());
+}
+
+/// Selects the networks that the modem may use. The modem then registers with the best of them.
+AtAnswer ModemCore::allowedNetworks(const AtCommand &command)
+{
+    const std::set<std::string> selectable = {"12", "22", "25", "28", "29", "30", "31"};
+    if (m_allowedNetworks == 0)
+        return command.form == AtCommand::Test ? info("+WS46: (12,22,25)") : error();
+    if (command.form == AtCommand::Test)
+        return info("+WS46: (12,22,25,28,29,30,31)");
+    if (command.form == AtCommand::Read)
+        return info("+WS46: " + std::to_string(m_allowedNetworks));
+    if (selectable.count(command.value(0)) == 0)
+        return equipmentError(NOT_ALLOWED);
+    m_allowedNetworks = std::stoi(command.value(0));
+    sayRegistration();
+    return ok();
+}
+
+/// The daemon's plug-in "telit" reads the technology with this command and not from +CREG: 2 for
+/// 3G, 4 for 4G.
+AtAnswer ModemCore::technology(const AtCommand &)
+{
+    if (m_allowedNetworks == 0)
+        return error();
+    return info(m_allowedNetworks == ONLY_4G ? "#PSNT: 0,4" : "#PSNT: 0,2");
 }
 
 std::string ModemCore::networkCode() const
@@ -246,6 +270,10 @@ AtAnswer ModemCore::ussd(const AtCommand &command)
 /// `no-device`, it answers with an error.
 AtAnswer ModemCore::startUssd(const std::string &text)
 {
+    if (m_allowedNetworks == ONLY_4G) {
+        m_thread.post([this] { sayUssd(TKSV_FAILURE_NOT_SUPPORTED, std::string()); });
+        return ok();
+    }
     switch (m_network ? m_network->sendUssd(text) : Tksv::RequestNoDevice) {
     case Tksv::RequestAccepted:
         return ok();

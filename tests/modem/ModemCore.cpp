@@ -26,7 +26,7 @@ ModemCore::ModemCore(LoopThread &thread, const std::string &port, ModemSettings 
       m_port(
           thread.context(), port, [this](const std::string &bytes) { take(bytes); },
           [this] { opened(); }),
-      m_sim(m_settings.sim)
+      m_sim(m_settings.sim), m_allowedNetworks(m_settings.allowedNetworks)
 {
 }
 
@@ -120,11 +120,8 @@ void ModemCore::networkChanged()
         m_news.plugChanged(PlugChange::Changed);
     }
     const int registration = registrationStatus();
-    if (std::exchange(m_toldRegistration, registration) != registration) {
-        const std::string place = registration == 2 ? "" : ",\"1234\",\"001122BB\"";
-        say("+CREG: " + std::to_string(registration) + place);
-        say("+CGREG: " + std::to_string(registration) + place);
-    }
+    if (std::exchange(m_toldRegistration, registration) != registration)
+        sayRegistration();
     if (std::exchange(m_toldSignal, now.signalPercent) != now.signalPercent &&
         m_settings.tellsSignal)
         say("+CIEV: 2," + std::to_string((now.signalPercent + 10) / 20));
@@ -139,6 +136,23 @@ int ModemCore::registrationStatus() const
     if (now.state != TKSV_DEVICE_REGISTERED || lostSms || !m_sim.isUsable() || m_functionality != 1)
         return 2;
     return m_settings.isRoaming ? 5 : 1;
+}
+
+/// Returns the place in the network and, if the modem has 4G, the technology (3GPP TS 27.007, 7.2):
+/// 2 for 3G, 7 for 4G.
+std::string ModemCore::registrationPlace() const
+{
+    if (registrationStatus() == 2)
+        return std::string();
+    const std::string place = ",\"1234\",\"001122BB\"";
+    return m_allowedNetworks == 0 ? place : place + (m_allowedNetworks == ONLY_4G ? ",7" : ",2");
+}
+
+void ModemCore::sayRegistration()
+{
+    const std::string status = std::to_string(registrationStatus()) + registrationPlace();
+    say("+CREG: " + status);
+    say("+CGREG: " + status);
 }
 
 /* ---- input ------------------------------------------------------------------------------- */

@@ -75,6 +75,8 @@ private:
     AtAnswer simCommand(const AtCommand &command);
     AtAnswer facilityLock(const AtCommand &command);
     AtAnswer registration(const AtCommand &command);
+    AtAnswer allowedNetworks(const AtCommand &command);
+    AtAnswer technology(const AtCommand &command);
     AtAnswer operatorName(const AtCommand &command);
     AtAnswer signal(const AtCommand &command);
     AtAnswer indicators(const AtCommand &command);
@@ -96,6 +98,8 @@ private:
     void networkChanged();
     Tksv::DeviceInfo device() const;
     int registrationStatus() const;
+    std::string registrationPlace() const;
+    void sayRegistration();
     std::string networkCode() const;
 
     LoopThread &m_thread;
@@ -116,6 +120,7 @@ private:
     Charset m_charset = Charset::Gsm;
     bool m_numericOperator = false;
     int m_functionality = 1;
+    int m_allowedNetworks; // a value of +WS46, or 0
     int m_toldRegistration = 0;
     int m_toldSignal = 0;
     // Set by AT+CUSD=1. Until then, messages from the network are delayed.

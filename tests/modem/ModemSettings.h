@@ -27,8 +27,18 @@ struct ModemSettings {
     // If true, the modem reports each change in signal strength immediately, in five steps.
     // Otherwise, the daemon queries the signal strength every 30 s.
     bool tellsSignal = false;
+    // The name of the daemon's plug-in for the modem. The plug-in "generic" cannot change the
+    // networks that a modem may use.
+    std::string plugin = "generic";
+    // The networks that the modem may use at first, as a value of +WS46 (3GPP TS 27.007, 5.9). If
+    // the value is 0, the modem has no 4G and always uses 2G or 3G. A modem that may use only 4G
+    // does not support USSD.
+    int allowedNetworks = 0;
     std::vector<Charset> charsets = {Charset::Ucs2, Charset::Gsm, Charset::Ira};
 };
+
+/** The value of +WS46 for a modem that may use only 4G. */
+const int ONLY_4G = 28;
 
 /** Changes of the modem hardware. */
 enum class PlugChange {

@@ -50,6 +50,8 @@ bool readModem(GVariant *interfaces, const std::string &device, ModemState &stat
         return false;
     state.state = numberOf(properties.get(), "State", "i");
     state.lock = numberOf(properties.get(), "UnlockRequired", "u");
+    g_variant_lookup(properties.get(), "CurrentModes", "(uu)", &state.allowedModes,
+                     &state.preferredModes);
     const auto has = [&](const char *interface) {
         return VariantPtr(g_variant_lookup_value(interfaces, interface, nullptr)) != nullptr;
     };
@@ -273,7 +275,7 @@ void ModemWorld::setProfile(const std::string &id, const std::string &port)
 {
     const char *const ports[] = {port.c_str(), nullptr};
     send(m_connection, {SERVICE, ROOT, "org.freedesktop.ModemManager1.Test", "SetProfile"},
-         g_variant_new("(ss^as)", id.c_str(), "generic", ports));
+         g_variant_new("(ss^as)", id.c_str(), modem(id).plugin().c_str(), ports));
 }
 
 void ModemWorld::announce(const std::string &id)

@@ -8,6 +8,7 @@
 #include <QTextEdit>
 #include <QTreeWidget>
 
+#include "base/DashboardText.h"
 #include "base/SessionTurn.h"
 #include "IUSSD.h"
 #include "Languages.h"
@@ -70,6 +71,10 @@ Result=0
 [SMS 1201]
 Result=28
 )";
+
+const unsigned MODE_2G = 2; // MMModemMode flags
+const unsigned MODE_3G = 4;
+const unsigned MODE_4G = 8;
 
 const int WEATHER = 9; // row numbers in the service tree
 const int TARIFF = 10;
@@ -150,6 +155,7 @@ private slots:
     void theDaemonCrashesWhileACommandIsOut();
     void aMessageOfTheNetworkIsShown();
     void aQuestionOfTheNetworkIsAnswered();
+    void aModemHeldOn4GIsAllowedOlderNetworks();
     void textInOtherScripts_data();
     void textInOtherScripts();
     void aReplyInThreeScriptsIsAnswered();
@@ -181,12 +187,14 @@ protected:
 
 private:
     FakeModems::FakeModem &fake() { return m_world->modem("one"); }
+    void useModem(const FakeModems::ModemSettings &settings);
     bool waitForRegistration();
     void openPage();
     QString ask(const QString &command);
     QWidget *openDialog(PAID_TYPE type, const char *name);
     Message newestMessage();
-    /// Returns the visible button for the remedy, or null if there is none.
+    /// Returns the visible button with this name, or null if there is none.
+    QPushButton *shownButton(const QString &name);
     QPushButton *shownRemedy(Remedy remedy);
     template <typename T>
     T *part(const QWidget *dialog, const char *role);
@@ -203,8 +211,6 @@ void EndToEndTest::setUpClass()
 {
     m_world.reset(new FakeModems::ModemWorld);
     QCOMPARE(m_world->start(), std::string());
-    QCOMPARE(m_world->addModem("one", NETWORK), std::string());
-    QVERIFY(!m_world->waitForState("one", FakeModems::STATE_DISABLED).empty());
 }
 
 void EndToEndTest::tearDownClass()
@@ -217,10 +223,7 @@ void EndToEndTest::setUp()
     QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     makeLibrary();
     qputenv("USSD_DETECT_PAID_TYPE", "1");
-    QCOMPARE(m_world->useScenario("one", NETWORK), std::string());
-    fake().behave();
-    QVERIFY(!m_world->enable("one").empty());
-    fake().forgetReceived();
+    useModem(FakeModems::ModemSettings());
 }
 
 void EndToEndTest::tearDown()
@@ -229,6 +232,14 @@ void EndToEndTest::tearDown()
     qunsetenv("USSD_DETECT_PAID_TYPE");
     if (QTest::currentTestFailed())
         fprintf(stderr, "%s\n", m_world->logTail().c_str());
+}
+
+/// Replaces the modem, and waits until the new modem is registered.
+void EndToEndTest::useModem(const FakeModems::ModemSettings &settings)
+{
+    QCOMPARE(m_world->addModem("one", NETWORK, settings), std::string());
+    QVERIFY(!m_world->enable("one").empty());
+    fake().forgetReceived();
 }
 
 bool EndToEndTest::waitForRegistration()
@@ -372,14 +383,18 @@ Message EndToEndTest::newestMessage()
     return window().findChild<MessageParts *>()->store().newest();
 }
 
-QPushButton *EndToEndTest::shownRemedy(Remedy remedy)
+QPushButton *EndToEndTest::shownButton(const QString &name)
 {
-    const QString name = QString::fromLatin1("Dashboard_Remedy_%1").arg(int(remedy));
     for (QPushButton *button : window().findChildren<QPushButton *>(name)) {
         if (button->isVisible())
             return button;
     }
     return nullptr;
+}
+
+QPushButton *EndToEndTest::shownRemedy(Remedy remedy)
+{
+    return shownButton(QString::fromLatin1("Dashboard_Remedy_%1").arg(int(remedy)));
 }
 
 void EndToEndTest::aMessageOfTheNetworkIsShown()
@@ -409,6 +424,40 @@ void EndToEndTest::aQuestionOfTheNetworkIsAnswered()
     QVERIFY(page().send(QLatin1String("1")));
     QVERIFY(fake().waitForCommand("AT+CUSD=1,\"0031\""));
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+}
+
+/// Tests both buttons of the strip with a daemon that changes the modem's setting, so that codes
+/// work in between. The daemon's plug-in for this modem changes the setting with +WS46.
+void EndToEndTest::aModemHeldOn4GIsAllowedOlderNetworks()
+{
+    FakeModems::ModemSettings held;
+    held.plugin = "telit";
+    held.allowedNetworks = FakeModems::ONLY_4G;
+    useModem(held);
+    const FakeModems::ModemState before = m_world->stateOf("one");
+    QCOMPARE(before.allowedModes, MODE_4G);
+
+    qunsetenv("USSD_DETECT_PAID_TYPE");
+    openDashboard();
+    window().showPage(PageId::Codes);
+    QVERIFY(waitForRegistration());
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String(USSD_FAILED));
+    const StateStrip *strip = window().findChild<StateStrip *>();
+    QTRY_COMPARE(strip->text(), dashboardText("FAILURE_ON_LTE"));
+    QCOMPARE(m_world->stateOf("one").allowedModes, before.allowedModes); // nothing unasked
+    QVERIFY(!shownButton(QLatin1String("Dashboard_Only4G")));
+    QTRY_VERIFY(shownButton(QLatin1String("Dashboard_AllowOlder")));
+    shownButton(QLatin1String("Dashboard_AllowOlder"))->click();
+    QTRY_COMPARE(m_world->stateOf("one").allowedModes, MODE_2G | MODE_3G | MODE_4G);
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+
+    QTRY_VERIFY(shownButton(QLatin1String("Dashboard_Only4G")));
+    QVERIFY(!shownButton(QLatin1String("Dashboard_AllowOlder")));
+    shownButton(QLatin1String("Dashboard_Only4G"))->click();
+    QTRY_COMPARE(m_world->stateOf("one").allowedModes, before.allowedModes);
+    QCOMPARE(m_world->stateOf("one").preferredModes, before.preferredModes);
+    QTRY_VERIFY(!shownButton(QLatin1String("Dashboard_Only4G")));
+    QCOMPARE(fake().timesReceived("AT+WS46=28"), 1);
 }
 
 void EndToEndTest::textInOtherScripts_data()

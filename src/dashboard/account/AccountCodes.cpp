@@ -102,6 +102,7 @@ QString firstOfKind(const QList<NamedCode> &codes, CodeKind kind)
 
 void takeConfiguration(const PluginConfig &config, PaidType type, AccountCodes *codes)
 {
+    codes->paidType = config.prePostDiffer.command.trimmed();
     if (type == PaidType::Unknown)
         return;
     const int index = type == PaidType::Prepaid ? 0 : 1;
@@ -162,7 +163,7 @@ bool AccountCodes::operator==(const AccountCodes &other) const
             return false;
     }
     return balance == other.balance && number == other.number && validity == other.validity &&
-           data == other.data && hasTopUp == other.hasTopUp;
+           data == other.data && paidType == other.paidType && hasTopUp == other.hasTopUp;
 }
 
 CodeFiles CodeFiles::inUse()
@@ -175,14 +176,19 @@ CodeFiles CodeFiles::inUse()
     return files;
 }
 
-QStringList readCodesWithPlace(const CodeFiles &files)
+QStringList readTemplates(const CodeFiles &files)
 {
     QStringList codes;
     for (const NamedCode &named : readAccountCodes(files, PaidType::Unknown).all)
         codes << named.code;
-    for (const ConfigCharge &charge : readConfigurationFile(files.configuration).charge)
+    const PluginConfig config = readConfigurationFile(files.configuration);
+    for (const ConfigCharge &charge : config.charge)
         codes << charge.command.trimmed();
-    return codes.filter(INPUT_PLACEHOLDER);
+    for (const ConfigBalance &balance : config.balance)
+        codes << balance.command.trimmed();
+    for (const ConfigMSISDN &number : config.msisdn)
+        codes << number.command.trimmed();
+    return codes;
 }
 
 AccountCodes readAccountCodes(const CodeFiles &files, PaidType type)

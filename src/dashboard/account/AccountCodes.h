@@ -47,6 +47,7 @@ struct AccountCodes {
     QString number;
     QString validity;
     QString data;
+    QString paidType; // the code of the prepaid/postpaid query
     bool hasTopUp = false;
     QList<NamedCode> all; // without duplicates; the operator's codes precede the user's codes
 
@@ -65,8 +66,9 @@ struct CodeFiles {
     static CodeFiles inUse();
 };
 
-/// Returns the codes with a place for a number: those with names, and those of the account windows.
-QStringList readCodesWithPlace(const CodeFiles &files);
+/// Returns the codes with names and those of the account windows. They may contain a place for a
+/// number.
+QStringList readTemplates(const CodeFiles &files);
 
 /// Reads the codes. The account codes are those of this type of contract. If the type is unknown,
 /// they are taken from the profiles. A code that needs a number is not an account code.

@@ -19,7 +19,9 @@ const QList<QList<const char *>> &migrations()
          "CREATE TABLE day (sim TEXT NOT NULL, day TEXT NOT NULL, currency TEXT NOT NULL, "
          "units INTEGER NOT NULL, decimals INTEGER NOT NULL, lowest INTEGER NOT NULL, "
          "falls INTEGER NOT NULL, rises INTEGER NOT NULL, PRIMARY KEY (sim, day, currency)) "
-         "WITHOUT ROWID"}};
+         "WITHOUT ROWID"},
+        // Contains the SIMs whose balance may have changed since it was asked.
+        {"CREATE TABLE outdated (sim TEXT PRIMARY KEY, since INTEGER NOT NULL) WITHOUT ROWID"}};
     return steps;
 }
 
@@ -187,13 +189,39 @@ bool AccountDatabase::forEach(
     });
 }
 
+bool AccountDatabase::setOutdated(const QString &sim, const QDateTime &since)
+{
+    return repairing([&] {
+        return run("INSERT OR REPLACE INTO outdated (sim, since) VALUES (?, ?)",
+                   {sim, since.toMSecsSinceEpoch()});
+    });
+}
+
+bool AccountDatabase::clearOutdated(const QString &sim)
+{
+    return repairing([&] { return run("DELETE FROM outdated WHERE sim = ?", {sim}); });
+}
+
+bool AccountDatabase::isOutdated(const QString &sim)
+{
+    bool isFound = false;
+    if (!isThere())
+        return isFound;
+    repairing([&] {
+        return readRows("SELECT since FROM outdated WHERE sim = ?", {sim},
+                        [&isFound](const QSqlQuery &) { return isFound = true; });
+    });
+    return isFound;
+}
+
 bool AccountDatabase::removeBefore(const QDateTime &limit)
 {
     if (!isThere())
         return true;
     return repairing([&] {
         return run("DELETE FROM entry WHERE asked < ?", {limit.toMSecsSinceEpoch()}) &&
-               run("DELETE FROM day WHERE day < ?", {limit.date().toString(Qt::ISODate)});
+               run("DELETE FROM day WHERE day < ?", {limit.date().toString(Qt::ISODate)}) &&
+               run("DELETE FROM outdated WHERE since < ?", {limit.toMSecsSinceEpoch()});
     });
 }
 

@@ -26,6 +26,10 @@ public:
     /// order. The function returns false to stop. Returns false if the entries cannot be read.
     bool forEach(const QString &sim,
                  const std::function<bool(const QString &sim, const AccountEntry &)> &use);
+    /// Records that another code was answered after the balance was asked, or that this is over.
+    bool setOutdated(const QString &sim, const QDateTime &since);
+    bool clearOutdated(const QString &sim);
+    bool isOutdated(const QString &sim);
     bool removeBefore(const QDateTime &limit);
 
 private:

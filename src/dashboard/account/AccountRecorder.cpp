@@ -13,17 +13,29 @@ AccountRecorder::AccountRecorder(AccountStore *store, QObject *parent)
 
 void AccountRecorder::record(const QString &code, const Reply &reply)
 {
-    // Menus do not contain account data.
-    if (!m_codes.asksForAccount(code) || reply.text.trimmed().isEmpty() || reply.asksForAnswer)
+    if (code.isEmpty() || reply.text.trimmed().isEmpty())
         return;
+    // Menus do not contain account data.
+    if (!m_codes.asksForAccount(code) || reply.asksForAnswer)
+        return noteOther(code);
     AccountEntry entry;
     entry.askedAt = m_store->now();
     entry.code = code;
     entry.text = reply.text;
     entry.reading = readingOf(code, reply.text);
     m_store->add(entry);
+    if (code == m_codes.balance)
+        m_store->setOutdated(false);
     if (entry.reading.amount)
         warn(*entry.reading.amount);
+}
+
+/// Records that another code was answered, which may have changed the balance. The amount in such a
+/// reply is not used, because it may be a price.
+void AccountRecorder::noteOther(const QString &code)
+{
+    if (code != m_codes.paidType && !m_store->newest(m_codes.balance).isNull())
+        m_store->setOutdated(true);
 }
 
 /// Extracts only those values that a reply to this code can contain. For example, an amount in the

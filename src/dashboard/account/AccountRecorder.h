@@ -45,6 +45,7 @@ signals:
 
 private:
     ReplyReading readingOf(const QString &code, const QString &text) const;
+    void noteOther(const QString &code);
     void warn(const Money &balance);
 
     AccountStore *const m_store;

@@ -104,6 +104,23 @@ QList<BalanceDay> AccountStore::lastDays() const
     return days;
 }
 
+void AccountStore::setOutdated(bool isOutdated)
+{
+    if (m_sim.isEmpty() || isOutdated == this->isOutdated())
+        return;
+    if (isOutdated)
+        m_database->setOutdated(m_sim, now());
+    else
+        m_database->clearOutdated(m_sim);
+    report();
+    emit changed();
+}
+
+bool AccountStore::isOutdated() const
+{
+    return !m_sim.isEmpty() && m_database->isOutdated(m_sim);
+}
+
 void AccountStore::removeAll()
 {
     m_numbers.clear();

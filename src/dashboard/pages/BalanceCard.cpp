@@ -48,6 +48,7 @@ BalanceCard::BalanceCard(QWidget *parent)
     m_ask->setObjectName(QLatin1String("Dashboard_AskButton"));
     m_show->setObjectName(QLatin1String("Dashboard_ShowReplyButton"));
     m_amount->setObjectName(QLatin1String("Dashboard_BalanceAmount"));
+    m_asked->setObjectName(QLatin1String("Dashboard_BalanceAsked"));
     m_reply->setObjectName(QLatin1String("Dashboard_BalanceReply"));
     makeChips();
     m_layout->addLayout(makeHead());
@@ -220,9 +221,8 @@ void BalanceCard::showAge()
 {
     const bool isAsked = !m_view.entry.isNull();
     const qint64 days = isAsked ? m_view.entry.askedAt.date().daysTo(m_view.now.date()) : 0;
-    m_asked->setText(
-        isAsked ? dashboardText("HOME_ASKED").arg(whenText(m_view.entry.askedAt, m_view.now))
-                : QString());
+    const QString asked = dashboardText(m_view.isOutdated ? "HOME_LAST_ASKED" : "HOME_ASKED");
+    m_asked->setText(isAsked ? asked.arg(whenText(m_view.entry.askedAt, m_view.now)) : QString());
     m_age->setText(dashboardText("HOME_DAYS_OLD").arg(days));
     m_age->setVisible(days >= OLD_DAYS);
     m_low->setText(dashboardText("HOME_LOW"));

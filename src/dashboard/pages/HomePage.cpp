@@ -341,6 +341,7 @@ void HomePage::lookAtBalance()
     view.entry = m_parts.store->newest(m_codes.balance);
     view.now = m_parts.store->now();
     view.validity = validityEntry().reading.date.value_or(QDate());
+    view.isOutdated = m_parts.store->isOutdated();
     view.isInvented = m_parts.store->isDemonstration();
     view.isLow = view.entry.reading.amount && m_parts.recorder->isLow(*view.entry.reading.amount);
     view.canAsk = canSend();

@@ -48,9 +48,11 @@ const QChar HIDDEN_DIGITS(0x2026);
 
 QString codeWithoutNumbers(const QString &code, const QStringList &templates)
 {
+    if (templates.contains(code))
+        return code;
     for (const QString &form : templates) {
         const bool hasPlace = form.contains(Formats::INPUT_PLACEHOLDER);
-        QString hidden = hasPlace || form == code ? hiddenBy(form, code) : QString();
+        QString hidden = hasPlace ? hiddenBy(form, code) : QString();
         if (!hidden.isEmpty())
             return hidden;
     }

@@ -29,7 +29,7 @@ bool readLine(const QString &line, SentCode &sent)
 {
     const int tab = line.indexOf(QLatin1Char('\t'));
     sent.time = QDateTime::fromString(line.left(tab), Qt::ISODate);
-    sent.code = codeWithoutNumbers(line.mid(tab + 1));
+    sent.code = line.mid(tab + 1); // written without numbers
     return tab > 0 && sent.time.isValid() && isKeepable(sent.code);
 }
 
@@ -52,10 +52,19 @@ void CodeHistory::setKept(bool isKept)
         QFile::remove(m_file);
 }
 
+void CodeHistory::setInvented(bool isInvented)
+{
+    if (isInvented == m_isInvented)
+        return;
+    m_isInvented = isInvented;
+    m_codes.swap(m_others);
+    emit changed();
+}
+
 void CodeHistory::add(const QString &code)
 {
     SentCode sent;
-    sent.code = codeWithoutNumbers(code);
+    sent.code = codeWithoutNumbers(code, m_templates);
     sent.time = QDateTime::currentDateTimeUtc();
     if (!isKeepable(sent.code))
         return;
@@ -73,6 +82,7 @@ void CodeHistory::add(const QString &code)
 void CodeHistory::deleteAll()
 {
     m_codes.clear();
+    m_others.clear();
     if (!m_file.isEmpty())
         QFile::remove(m_file);
     emit changed();
@@ -93,7 +103,7 @@ void CodeHistory::read()
 
 void CodeHistory::write()
 {
-    if (!m_isKept || m_file.isEmpty())
+    if (!m_isKept || m_isInvented || m_file.isEmpty())
         return;
     QDir().mkpath(QFileInfo(m_file).path());
     QByteArray content;

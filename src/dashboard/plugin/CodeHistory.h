@@ -4,7 +4,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QObject>
-#include <QString>
+#include <QStringList>
 
 namespace Dashboard
 {
@@ -37,6 +37,11 @@ public:
     const QList<SentCode> &codes() const { return m_codes; }
     /// Sets whether the codes are stored on disk. If `isKept` is false, deletes the file.
     void setKept(bool isKept);
+    /// Sets whether codes are sent to an invented network. These codes have a list of their own,
+    /// which is only kept in memory.
+    void setInvented(bool isInvented);
+    /// Sets the codes of the operator and of the user; see codeWithoutNumbers().
+    void setTemplates(const QStringList &templates) { m_templates = templates; }
 
 public slots:
     /// Records that the code was sent now. As a precaution, digits that may be a number or a PIN
@@ -55,8 +60,11 @@ private:
     void write();
 
     const QString m_file;
+    QStringList m_templates;
     bool m_isKept = true;
+    bool m_isInvented = false;
     QList<SentCode> m_codes;
+    QList<SentCode> m_others; // the codes of the network that is not in use: invented, or real
 };
 
 } // namespace Dashboard

@@ -78,8 +78,8 @@ public:
     bool hasTypedText() const;
     /// Returns the codes that the user sent, newest first, each once, without numbers and PINs.
     QStringList recent() const { return m_recent; }
-    /// Sets the codes that contain a placeholder for a number ("%s"). They are used to remove
-    /// numbers from codes.
+    /// Sets the codes of the operator and of the user, which are used to remove numbers from codes;
+    /// see codeWithoutNumbers().
     void setTemplates(const QStringList &templates) { m_templates = templates; }
     QStringList templates() const { return m_templates; }
     /// Replaces the clock that counts the seconds. A null function restores the system's clock.

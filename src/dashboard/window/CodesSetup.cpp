@@ -7,10 +7,12 @@
 #include "IUSSD.h"
 #include "pages/AppActions.h"
 #include "pages/CodesPage.h"
+#include "plugin/CodeForms.h"
 #include "plugin/LoadedPlugin.h"
 #include "plugin/ServiceList.h"
 #include "PluginFolderChoice.h"
 #include "sim/SimWindows.h"
+#include "UssdCode.h"
 
 namespace Dashboard
 {
@@ -18,18 +20,16 @@ namespace Dashboard
 namespace
 {
 
-const char NUMBER[] = "%s"; // the placeholder for a number in a code
-
 QString historyFile(const AppController *controller)
 {
     return controller->settings() ? CodeHistory::fileOfUser() : QString();
 }
 
-QStringList codesWithPlace()
+QStringList templatesInUse()
 {
-    QStringList codes = readCodesWithPlace(CodeFiles::inUse());
+    QStringList codes = readTemplates(CodeFiles::inUse());
     for (const Service &service : readServices(HostCore::PluginFolderChoice::current())) {
-        if (service.isByCode && service.code.contains(QLatin1String(NUMBER)))
+        if (service.isByCode)
             codes << service.code;
     }
     return codes;
@@ -63,7 +63,15 @@ CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourite
             [controller] { controller->openFrame(PAID_TYPE_GENERAL); });
     connect(m_page, &CodesPage::remedyChosen, this,
             [actions](Remedy remedy) { actions->perform(remedy); });
+    connect(&controller->device(), &DeviceWatcher::changed, this, &CodesSetup::followDevice);
+    followDevice();
     followSettings();
+}
+
+/// Codes of a demonstration must not be offered for a SIM, and the other way round.
+void CodesSetup::followDevice()
+{
+    m_history.setInvented(m_controller->device().status().isSimulated);
 }
 
 /// A walk belongs to the SIM with which the user took it.
@@ -83,14 +91,17 @@ QList<CodeName> CodesSetup::names() const
     QList<CodeName> names;
     for (const NamedCode &named : codesInUse()) {
         QString code = named.code;
-        names << CodeName{code.replace(QLatin1String(NUMBER), QString(QChar(0x2026))), named.name};
+        names << CodeName{code.replace(Formats::INPUT_PLACEHOLDER, QString(HIDDEN_DIGITS)),
+                          named.name};
     }
     return names;
 }
 
 void CodesSetup::readCodes()
 {
-    m_controller->monitor().setTemplates(codesWithPlace());
+    const QStringList templates = templatesInUse();
+    m_controller->monitor().setTemplates(templates);
+    m_history.setTemplates(templates);
     m_page->refreshNames();
 }
 

@@ -44,6 +44,7 @@ private:
     void offerWindow();
     void readCodes();
     void followChains();
+    void followDevice();
 
     AppController *const m_controller;
     CodeHistory m_history;

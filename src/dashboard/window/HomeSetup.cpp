@@ -89,7 +89,8 @@ void HomeSetup::followSim()
     const DashboardSettings *settings = m_controller->settings();
     const bool isStored = settings && settings->keepsHistory();
     m_recorder.setLowBalance(settings ? settings->lowBalance() : QString());
-    m_favourites.setNetwork(m_controller->operatorCodes().network());
+    m_favourites.setNetwork(status.isSimulated ? QLatin1String(Chains::DEMONSTRATION_NETWORK)
+                                               : m_controller->operatorCodes().network());
     m_page->setSimText(
         status.imsi.isEmpty()
             ? QString()

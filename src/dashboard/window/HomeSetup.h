@@ -32,6 +32,7 @@ public:
     AccountStore &store() { return m_store; }
     AccountRecorder &recorder() { return m_recorder; }
     Favourites &favourites() { return m_favourites; }
+    DailyAsking &daily() { return m_daily; }
     void setSituation(const Situation &situation);
 
 public slots:
