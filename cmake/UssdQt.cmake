@@ -3,7 +3,7 @@
 add_library(ussd_qtcore INTERFACE)
 add_library(ussd_qtwidgets INTERFACE)
 add_library(ussd_qttest INTERFACE)
-# Modules that only the dashboard uses. It requires Qt 5 or Qt 6.
+# Modules that only the dashboard uses. The dashboard requires Qt 5 or Qt 6.
 add_library(ussd_qtdashboard INTERFACE)
 
 if(USSD_QT_VERSION EQUAL 6)
@@ -36,8 +36,8 @@ elseif(USSD_QT_VERSION EQUAL 4)
 else()
     message(FATAL_ERROR "USSD_QT_VERSION is '${USSD_QT_VERSION}'; expected 6, 5 or 4")
 endif()
-# The loader of Qt 4 rejects a library if its build key differs from its own. The build keys of Qt 4
-# never end with the version number of Qt 5 or Qt 6, so that a Qt 4 host never loads this library.
+# Qt 4 rejects a plug-in whose build key differs from its own build key, which never ends with "qt5"
+# or "qt6". A Qt 4 host therefore never loads a plug-in that was built for Qt 5 or Qt 6.
 set(USSD_PLUGIN_BUILD_KEY "${USSD_QT4_BUILD_KEY}")
 if(NOT USSD_QT_VERSION EQUAL 4)
     string(APPEND USSD_PLUGIN_BUILD_KEY " qt${USSD_QT_VERSION}")
