@@ -12,8 +12,8 @@ if(USSD_QT_VERSION EQUAL 6)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Core Core5Compat DBus Gui Sql Svg Widgets Test)
     target_link_libraries(ussd_qtcore INTERFACE Qt6::Core Qt6::Core5Compat)
     target_link_libraries(ussd_qtwidgets INTERFACE Qt6::Widgets)
-    # Qt6::Test also adds definitions for QFINDTESTDATA, which differ for each folder. The tests
-    # could then not share precompiled headers, which require identical definitions.
+    # Removes the definitions for QFINDTESTDATA that Qt6::Test adds. These definitions differ for each
+    # folder, but tests that share precompiled headers must have identical definitions.
     set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
     target_link_libraries(ussd_qttest INTERFACE Qt6::Test)
     target_link_libraries(ussd_qtdashboard INTERFACE Qt6::DBus Qt6::Sql Qt6::Svg)

@@ -5,7 +5,7 @@
 #   ussd_start_first(NAME...)      starts these long tests first, to shorten the total time
 #
 # With FAKE_SDK, the library path selects the fake device SDK from tests/fakes instead of the real
-# one.
+# device SDK.
 
 set(USSD_TEST_SECONDS 120)
 
