@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Replaces the expected results of a test in the source tree with its current results:
+# Replaces the expected results of a test in the source tree with the current results:
 #     scripts/accept.sh lists      the lists of widgets of dashboard_screen_reader
 #     scripts/accept.sh pictures   the reference pictures of dashboard_pictures
 # Review the differences before you commit the new files.
