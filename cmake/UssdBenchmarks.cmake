@@ -5,7 +5,7 @@
 #   ussd_add_helper(NAME SOURCES... LIBRARIES...)      another program that the benchmarks use
 #   ussd_list_benchmarks()                             writes the benchmark names for benchmarks/run
 #
-# The target "benchmarks" builds all of them.
+# The "benchmarks" target builds all benchmarks and helpers.
 add_custom_target(benchmarks)
 
 function(ussd_add_helper name)

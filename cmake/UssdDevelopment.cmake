@@ -6,8 +6,8 @@
 #                              HEADERS FILE... [REQUIRES PKG-CONFIG-NAME...] [VARIABLE NAME=VALUE])
 #
 # PACKAGE is the package name for find_package(). The package defines the target PACKAGE::TARGET.
-# Its template is in cmake/packages. FOLDER is the folder of the headers. VARIABLE adds a variable
-# to the pkg-config file.
+# The template of the package is in cmake/packages. FOLDER is the folder of the headers. VARIABLE
+# adds a variable to the pkg-config file.
 include(CMakePackageConfigHelpers)
 
 set(USSD_PKG_CONFIG_DIR ${USSD_LIB_DIR}/pkgconfig)

@@ -1,8 +1,9 @@
-# Functions that add coverage-guided fuzzers (libFuzzer of clang, preset fuzz).
+# Functions that add coverage-guided fuzzers. The fuzzers use libFuzzer of clang, and are built with
+# the fuzz preset.
 #
 #   ussd_add_fuzzer(NAME RUNS NUMBER MAX_LENGTH BYTES SOURCES... LIBRARIES... [DICTIONARY FILE])
 #
-# Adds the program NAME, which can run for any length of time, and a test of the same name, which
+# Adds the program NAME, which can run for any length of time, and a test with the same name, which
 # tries RUNS inputs with a fixed random seed. The folder corpus/NAME contains the initial inputs and
 # all inputs that have caused a failure in the past.
 

@@ -7,7 +7,7 @@
 #
 # All targets of a KIND use the same C++ standard (LEVEL), symbol visibility (HIDDEN) and Qt modules
 # (LIBRARIES). If the options differ, the compiler rejects the precompiled headers (-Winvalid-pch).
-# Source files must still include all headers that they use, because the presets quick and tidy do
+# Source files must still include all headers that they use, because the quick and tidy presets do
 # not use precompiled headers.
 
 set(USSD_PRECOMPILED_CXX

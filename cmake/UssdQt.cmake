@@ -3,7 +3,7 @@
 add_library(ussd_qtcore INTERFACE)
 add_library(ussd_qtwidgets INTERFACE)
 add_library(ussd_qttest INTERFACE)
-# Modules that only the dashboard uses. It requires Qt 5 or Qt 6.
+# Modules that only the dashboard uses. The dashboard requires Qt 5 or Qt 6.
 add_library(ussd_qtdashboard INTERFACE)
 
 if(USSD_QT_VERSION EQUAL 6)
@@ -12,8 +12,8 @@ if(USSD_QT_VERSION EQUAL 6)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Core Core5Compat DBus Gui Sql Svg Widgets Test)
     target_link_libraries(ussd_qtcore INTERFACE Qt6::Core Qt6::Core5Compat)
     target_link_libraries(ussd_qtwidgets INTERFACE Qt6::Widgets)
-    # Qt6::Test also adds definitions for QFINDTESTDATA, which differ for each folder. The tests
-    # could then not share precompiled headers, which require identical definitions.
+    # Removes the definitions for QFINDTESTDATA that Qt6::Test adds. These definitions differ for each
+    # folder, but tests that share precompiled headers must have identical definitions.
     set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
     target_link_libraries(ussd_qttest INTERFACE Qt6::Test)
     target_link_libraries(ussd_qtdashboard INTERFACE Qt6::DBus Qt6::Sql Qt6::Svg)
@@ -36,8 +36,8 @@ elseif(USSD_QT_VERSION EQUAL 4)
 else()
     message(FATAL_ERROR "USSD_QT_VERSION is '${USSD_QT_VERSION}'; expected 6, 5 or 4")
 endif()
-# The loader of Qt 4 rejects a library if its build key differs from its own. The build keys of Qt 4
-# never end with the version number of Qt 5 or Qt 6, so that a Qt 4 host never loads this library.
+# Qt 4 rejects a plug-in whose build key differs from its own build key, which never ends with "qt5"
+# or "qt6". A Qt 4 host therefore never loads a plug-in that was built for Qt 5 or Qt 6.
 set(USSD_PLUGIN_BUILD_KEY "${USSD_QT4_BUILD_KEY}")
 if(NOT USSD_QT_VERSION EQUAL 4)
     string(APPEND USSD_PLUGIN_BUILD_KEY " qt${USSD_QT_VERSION}")

@@ -5,7 +5,7 @@
 #   ussd_start_first(NAME...)      starts these long tests first, to shorten the total time
 #
 # With FAKE_SDK, the library path selects the fake device SDK from tests/fakes instead of the real
-# one.
+# device SDK.
 
 set(USSD_TEST_SECONDS 120)
 
@@ -37,8 +37,8 @@ function(ussd_set_up_test name)
     )
 endfunction()
 
-# Sets the properties that all test programs share. They are linked with gold, which takes a third
-# of the time. All other programs are linked with the default linker of the compiler.
+# Sets the properties that all test programs share. The test programs are linked with gold, which
+# takes a third of the time that the compiler's default linker takes for the other programs.
 function(ussd_set_up_test_program name)
     ussd_set_up(${name})
     set_target_properties(${name} PROPERTIES CXX_STANDARD 17 AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY
@@ -48,7 +48,7 @@ function(ussd_set_up_test_program name)
     endif()
 endfunction()
 
-# Adds the test to the target tests_LABEL of each label, which builds only the tests with this
+# For each label, adds the test to the tests_LABEL target, which builds only the tests with this
 # label.
 function(ussd_add_to_labels name)
     foreach(label IN LISTS ARGN)
@@ -78,12 +78,12 @@ function(ussd_add_test name)
 endfunction()
 
 # CTest starts the tests in descending order of their running time in the previous run. In the first
-# run, CTest uses this cost instead.
+# run, CTest uses the COST property instead of the running time.
 function(ussd_start_first)
     set_tests_properties(${ARGN} PROPERTIES COST 10)
 endfunction()
 
-# ussd_add_script_test(NAME COMMAND... [LABELS...] [ENVIRONMENT...])
+# ussd_add_script_test(NAME COMMAND... [LABELS...] [ENVIRONMENT...]): adds a test that runs a command.
 function(ussd_add_script_test name)
     cmake_parse_arguments(arg "" "" "COMMAND;LABELS;ENVIRONMENT" ${ARGN})
     add_test(NAME ${name} COMMAND ${arg_COMMAND})

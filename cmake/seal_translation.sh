@@ -1,8 +1,8 @@
 #!/bin/sh
 # seal_translation.sh FILE.qm: appends the SHA-1 checksum of the file, so that Languages.cpp can
-# detect a damaged file, which could make QTranslator crash. The checksum is stored as a section in
-# the QM format with the tag "S" and a length of 40 bytes (the character "("). QTranslator skips
-# this section.
+# detect a damaged file, which could make QTranslator crash. The checksum is stored as a section of
+# the QM format with the tag "S" and a length of 40 bytes, which is encoded as the character "(".
+# QTranslator skips this section.
 set -e
 sum=$(sha1sum <"$1")
 printf 'S\000\000\000(%.40s' "$sum" >>"$1"

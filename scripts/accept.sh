@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Accepts the current output of a test: replaces the expected files in the source tree.
-#     scripts/accept.sh lists      what a screen reader finds, of the test dashboard_screen_reader
-#     scripts/accept.sh pictures   the appearance of the dashboard, of the test dashboard_pictures
-# Review the differences before you commit them.
+# Replaces the expected results of a test in the source tree with the current results:
+#     scripts/accept.sh lists      the lists of widgets of dashboard_screen_reader
+#     scripts/accept.sh pictures   the reference pictures of dashboard_pictures
+# Review the differences before you commit the new files.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh

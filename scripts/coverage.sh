@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Prints the lines and branches of the plug-in that its tests execute, per file and in total:
+# Prints which lines and branches of the plug-in are executed by its tests, per file and in total:
 #     scripts/coverage.sh [ctest arguments...]
 # The build folder is build/coverage. Exception branches are excluded, because the plug-in's own
 # code does not throw exceptions.

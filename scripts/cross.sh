@@ -48,7 +48,7 @@ shows() {
 }
 
 file_is_arm64() {
-    aarch64=183 # EM_AARCH64
+    aarch64=183 # the value of EM_AARCH64 in elf.h
     [ "$(od -An -tu2 -j 18 -N 2 "$1")" -eq $aarch64 ] || { say "$1 is not a program for arm64"; exit 1; }
 }
 

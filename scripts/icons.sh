@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Renders the PNG files of the program icon from its SVG file. Requires the package librsvg2-bin.
+# Renders the PNG files of the program icon from its SVG file. Requires the librsvg2-bin package.
 set -eu
 cd "$(dirname "$0")/../desktop/icons"
 for size in 16 22 24 32 48 64 128 256; do

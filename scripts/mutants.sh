@@ -38,7 +38,7 @@ chosen()
 }
 
 # Copies the files of the working tree, so that the faults never change the original files. Only
-# files that differ are copied. This also restores a file in which a killed run has left a fault.
+# files that differ are copied. If a killed run has left a fault in a file, copying restores the file.
 copy_tree()
 {
     local path
@@ -83,8 +83,8 @@ replace()
         s/\Q$ENV{old}\E/$ENV{new}/' "$1"
 }
 
-# Applies the fault $name, which replaces $old with $new in $file. Runs the tests in $tests first,
-# and all tests if these pass.
+# Applies the fault $name, which replaces $old with $new in $file. Runs the tests in $tests first. If
+# these tests pass, also runs all other tests.
 try_fault()
 {
     local source result=0 pattern

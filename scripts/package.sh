@@ -66,7 +66,7 @@ add_version()
     mv "$changelog.new" "$changelog"
 }
 
-# build_in FOLDER: builds the packages from a copy of $snapshot in FOLDER/source. They are put into
+# build_in FOLDER: builds the packages from a copy of $snapshot in FOLDER/source, and stores them in
 # FOLDER.
 build_in()
 {
@@ -106,7 +106,7 @@ mkdir -p build "$output"
 work=$PWD/build/package # a fixed path, so that ccache can reuse the results of earlier builds
 rm -rf "$work"
 mkdir "$work"
-snapshot=$work/snapshot # both builds use it, because the working tree may change meanwhile
+snapshot=$work/snapshot # the source of both builds, because the working tree may change between them
 copy_source_tree "$snapshot"
 follow build/package.log build_in "$work"
 lintian --fail-on error,warning --allow-root "$work"/*.changes

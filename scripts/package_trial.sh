@@ -97,8 +97,8 @@ try_examples() {
     shows '^Received: Echo simulation' env LD_LIBRARY_PATH=device/build host/build/minimal-host --once '*100#'
 }
 
-# make_next_version: builds packages of a later version from the existing ones. Each of the two
-# configuration files gets one additional line.
+# make_next_version: builds packages of a later version from the existing packages, and adds a line
+# to each of the two configuration files.
 make_next_version() {
     local package tree=$folder/tree version
     rm -rf "$system/next"

@@ -2,7 +2,7 @@
 # Debian packages, and configure and build the project. The working directory must be the root of
 # the source tree.
 
-PROGRESS_SECONDS=10 # between progress lines if there is no terminal
+PROGRESS_SECONDS=10 # the interval between progress lines if the output is not a terminal
 
 say() { printf '%s\n' "$*" >&2; }
 

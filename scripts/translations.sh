@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Updates the language files and reports what is missing:
+# Updates the language files, and reports missing texts and unknown keys:
 #   scripts/translations.sh [--check] [--new LANGUAGE]
-# translations/en.ts determines the keys, their order and the comments. A key that another language does
-# not have is added with the English text and marked as unfinished. A key that English does not have is
-# removed. --check changes nothing. --new creates the file of a language in which every text is
+# translations/en.ts determines the keys, their order and the comments. If a key is missing in another
+# language, it is added with the English text and marked as unfinished. Keys that en.ts does not contain
+# are removed. With --check, no file is changed. --new creates a language file in which every text is
 # unfinished. The exit status is 1 if a text is missing or a file is not up to date.
 set -eu
 root=${TRANSLATIONS_ROOT:-$(cd "$(dirname "$0")/.." && pwd)}
