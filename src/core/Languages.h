@@ -27,8 +27,8 @@ public:
     /// Returns the languages whose files are installed, in the order of the language menu. The list
     /// always contains English. May be called from any thread.
     static QStringList codes();
-    /// Returns the code of the language for the name of a locale, such as "pt_BR.UTF-8" or "de_AT".
-    /// The language need not be known. May be called from any thread.
+    /// Returns the language code for the name of a locale, such as "pt_BR.UTF-8" or "de_AT". The
+    /// host need not support this language. May be called from any thread.
     static QString codeFor(const QString &locale);
     /// Returns the name of the language in the language itself, or the code if the language is
     /// unknown. May be called from any thread.
@@ -56,8 +56,8 @@ public:
     /// build. QTranslator can crash if it uses a damaged file. May be called from any thread.
     static bool isWhole(const QByteArray &content);
 
-    /// Discards the operator's texts, so that the next lookup reads them again. setCurrent() and
-    /// PluginFolderChoice::use() have the same effect. May be called from any thread.
+    /// Discards the operator's texts, so that the next lookup reads the file again. setCurrent()
+    /// and PluginFolderChoice::use() have the same effect. May be called from any thread.
     static void forgetOperatorTexts();
 
     /// Returns the same string as Change::tr(). May be called from any thread.

@@ -38,8 +38,8 @@ public:
     /// Returns the path of the file. `pluginLibrary` is the folder that
     /// PluginFolderChoice::current() returns.
     static QString file(const QString &pluginLibrary);
-    /// Returns true if the string is a valid key: capital letters, digits and at least one
-    /// underscore.
+    /// Returns true if the string is a valid key, which consists of capital letters, digits and at
+    /// least one underscore.
     static bool isKey(const QString &text);
 
     OperatorTexts() {}
