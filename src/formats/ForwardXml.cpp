@@ -11,7 +11,7 @@ namespace
 {
 
 const char ENTITY_DECLARATION[] = "<!ENTITY";
-const int LONGEST_DECLARATION_START = 4 * int(sizeof ENTITY_DECLARATION); // in UTF-32
+const int LONGEST_DECLARATION_START = 4 * int(sizeof ENTITY_DECLARATION); // in bytes (UTF-32)
 const qint64 BLOCK_SIZE = qint64(64) * 1024;
 
 /// Reports an undeclared entity as an error. By default, the parser skips the entity, which could

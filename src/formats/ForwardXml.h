@@ -26,18 +26,18 @@ namespace ForwardXml
 /// error, because Qt 4 expands entities without a limit. A document of 600 bytes could therefore
 /// exhaust the memory.
 void start(QXmlStreamReader &reader, QIODevice &device);
-/// Makes `reader` parse `document` in the same way.
+/// This is an overloaded function. It makes `reader` parse `document` with the same restrictions.
 void start(QXmlStreamReader &reader, const QByteArray &document);
 
-/// Reads and returns the next token. An entity that the document does not declare is an error.
+/// Reads and returns the next token. Raises an error at a reference to an undeclared entity.
 QXmlStreamReader::TokenType next(QXmlStreamReader &reader);
 
 /// Moves to the next start element with this name, or to the end of the document. Returns true if
 /// the element was found.
 bool skipTo(QXmlStreamReader &reader, const QString &name);
 
-/// Like skipTo(), but returns false at the end element named `fence`. Has the same effect as
-/// skipTo() if `fence` equals `name`.
+/// Like skipTo(), but stops at the end element named `fence` and returns false. Has the same effect
+/// as skipTo() if `fence` equals `name`.
 bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &fence);
 
 /// Returns the complete text of the current element, including nested elements. Returns an empty
