@@ -38,7 +38,8 @@ USSDProfile placeholder()
     return profile;
 }
 
-/// Returns at most `count` profiles, starting at index `first`, with or without buttons.
+/// Returns at most `count` profiles, starting at index `first`, or all of them if `count` is -1.
+/// `hasButton` specifies whether the returned profiles have buttons.
 QList<USSDProfile> taken(const QList<USSDProfile> &profiles, int first, int count, bool hasButton)
 {
     QList<USSDProfile> result = profiles.mid(first, count);

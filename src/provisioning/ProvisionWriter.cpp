@@ -89,8 +89,8 @@ void removeUnchanged(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/// Removes the unfinished files of a process that was killed. Such files are in a folder with a
-/// different name and have never been active.
+/// Removes a set of files that a killed process or a failed operation has left unfinished. The name
+/// of its folder ends with UNFINISHED, and the set has never been active.
 void removeUnfinished(const QString &filesFolder)
 {
     const QStringList names = QDir(filesFolder).entryList(ALL);

@@ -74,9 +74,9 @@ struct ProvisionOutcome {
 ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan &plan,
                                 const ProvisionFiles &files);
 
-/// Returns the user's data folder, which is "ussd-dashboard" in $XDG_DATA_HOME or in its default. A
-/// relative path in the variable is invalid and therefore ignored, unlike in QStandardPaths of Qt
-/// 5.
+/// Returns the user's data folder, which is "ussd-dashboard" in $XDG_DATA_HOME or, if the variable
+/// is not set, in ~/.local/share. A relative path in the variable is invalid and therefore ignored,
+/// unlike in QStandardPaths of Qt 5.
 QString userDataHome();
 /// Returns the folder that contains the user's operator folders.
 QString operatorsFolder();
