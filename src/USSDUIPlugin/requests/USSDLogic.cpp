@@ -20,7 +20,7 @@ namespace
 
 const int SENT = 0;
 const int FAILED = 1;
-const int NOT_THE_HEAD = 2; // used only in this file
+const int NOT_THE_HEAD = 2; // internal result: the command is no longer the head of the queue
 
 const int PREVIOUS_TIMEOUT = 3000; // ms to wait until the previous time-out is disarmed
 
