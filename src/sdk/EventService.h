@@ -18,7 +18,7 @@ namespace Tksv
 struct Event {
     int number = 0;
     std::shared_ptr<void> data; // the record; destroyed after the last call
-    std::uintptr_t onlyKey = 0; // the listener that receives the event; 0: all listeners
+    std::uintptr_t onlyKey = 0; // key of the only listener to be called; 0 for all listeners
     /// Called from the service's thread immediately before delivery. Returns false to drop the
     /// event. May be empty.
     std::function<bool()> beforeDelivery;

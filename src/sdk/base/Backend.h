@@ -161,8 +161,8 @@ public:
     /// Enables the device. Returns false if the device is not disabled. Otherwise, infoChanged()
     /// reports the result.
     virtual bool enable() = 0;
-    /// Changes the generations of networks that the modem may use. Returns false if there is no
-    /// modem; otherwise infoChanged() reports the outcome.
+    /// Changes the network generations that the modem may use. Returns false if there is no modem.
+    /// Otherwise, infoChanged() reports the result.
     virtual bool setModes(const TKSV_Modes &modes) = 0;
     virtual DeviceInfo info() const = 0;
 };

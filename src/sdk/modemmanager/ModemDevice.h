@@ -40,11 +40,11 @@ public:
 
     UssdChannel &ussd() { return *m_ussd; }
     SmsSender &sms() { return *m_sms; }
-    /// Sends the PIN. If the SIM has not been fetched yet, sends the PIN as soon as it has.
+    /// Sends the PIN. If the SIM has not been fetched yet, sends the PIN as soon as it has been.
     void sendPin(const std::string &pin);
     /// Enables the modem. If this fails, info() contains the problem.
     void enable();
-    /// Changes the generations of networks that the modem may use.
+    /// Changes the network generations that the modem may use.
     void setModes(const TKSV_Modes &modes);
     /// Reports the request in flight and all messages that are being sent as failed. `reason`
     /// applies to the request.
