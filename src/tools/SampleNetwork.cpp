@@ -9,7 +9,7 @@ namespace
 {
 
 const int IMSI_DIGITS = 15;
-const char TEST_NETWORK[] = "00101"; // 3GPP TS 34.108
+const char TEST_NETWORK[] = "00101"; // the network code for tests; see 3GPP TS 34.108
 
 /// Escapes the text for use as a value in a key file. An unescaped leading blank would be lost.
 QString valueOf(QString text)
