@@ -72,7 +72,7 @@ void fill(const QString &file, int count)
     QSqlDatabase::removeDatabase(name);
 }
 
-/** A front page whose replies are in the file. */
+/** A front page that shows the replies in a database file. */
 class Front
 {
 public:
