@@ -11,9 +11,9 @@ namespace Formats
 {
 
 /*
- * Functions that scan an XML document forward. The plug-in's files are read from start to end by
- * element name, regardless of how the elements are nested. The order of the elements is therefore
- * significant.
+ * Functions that scan an XML document forward. The plug-in searches its files for element names
+ * from start to end, regardless of how the elements are nested. The order of the elements is
+ * therefore significant.
  *
  * A document is read up to its first error. If the error is in text or in the attributes of a start
  * tag, this text or these attributes are treated as empty. The rest of the document is ignored.

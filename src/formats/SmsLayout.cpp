@@ -29,8 +29,8 @@ QString quoted(const QString &text)
 }
 
 /**
- * Reads the section from start to end by element name. Unknown elements are ignored, but known
- * elements inside them are read.
+ * Searches the section for known element names from start to end. Unknown elements are ignored, but
+ * known elements inside them are read.
  */
 class Reader
 {
