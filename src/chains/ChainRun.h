@@ -10,7 +10,7 @@ namespace Chains
 struct ChainStep {
     enum class Verdict {
         Send,    // the menu still offers the choice; send `key`
-        Done,    // the reply is the last one of the chain
+        Done,    // all strings of the chain have been sent; the reply belongs to the last one
         NoMenu,  // the chain has more steps, but the network did not open a menu
         Changed, // the menu offers a different choice for the key, or no choice
     };
@@ -35,7 +35,7 @@ public:
     explicit ChainRun(const Chain &chain) : m_chain(chain) {}
 
     const Chain &chain() const { return m_chain; }
-    /// Returns the number of steps that have been permitted so far.
+    /// Returns the number of steps that takeReply() has permitted so far.
     std::size_t stepsSent() const { return m_next; }
     /// Returns the next step. `reply` is the reply to the string that was sent last: the code, or
     /// the key of a step.

@@ -43,7 +43,7 @@ struct FavouriteFile {
     std::string toJson() const;
 };
 
-/// The name of the file in the user's data folder.
+/// The name of the favourites file, which is in the user's data folder.
 extern const char *const FAVOURITE_FILE;
 /// The key for favourites that were selected while the home network was unknown.
 extern const char *const UNKNOWN_NETWORK;

@@ -28,7 +28,7 @@ struct Choice {
  */
 std::vector<Choice> menuChoices(const std::string &menu);
 
-/// Returns the choice with this key, or null if no choice has it.
+/// Returns the choice with this key, or null if there is none.
 const Choice *choiceWithKey(const std::vector<Choice> &choices, const std::string &key);
 
 } // namespace Chains
