@@ -59,7 +59,7 @@ struct ProvisionOutcome {
     enum State {
         Written,
         Current, // the files already exist; manual changes are kept
-        Refused, // files that were modified manually or not provisioned would be replaced
+        Refused, // would have replaced files that were modified manually or not provisioned
         Failed
     };
 
