@@ -9,7 +9,7 @@ const int MAX_CHANGES = 500;
 const int PIECE = 990;    // below NEVER_HEAVY, which leaves room for a surrogate pair
 const int LOOK_BACK = 50; // maximum distance of a blank from the end of a piece, in characters
 
-/// Returns true if `after` belongs to another script than `before` or combines with it.
+/// Returns true if `after` belongs to a different script from `before` or combines with it.
 bool isChange(QChar before, QChar after)
 {
     const int charactersOfAScript = 128; // an approximation; Qt's script tables are private

@@ -101,7 +101,7 @@ void USSDEditCmd::initWidgets()
     m_pInfoLabel->setWordWrap(true);
     m_pInfoLabel->setBuddy(m_pTable);
     m_pTable->setTabKeyNavigation(true);
-    // The Return key must only end the editing of a cell and not press this button.
+    // The Return key must only end the editing of a cell and not press one of these buttons.
     m_pSaveButton->setAutoDefault(false);
     m_pCancelButton->setAutoDefault(false);
 }
@@ -287,9 +287,9 @@ QString USSDEditCmd::savedText(int row, int column) const
     return column == ProfileRows::CodeColumn ? text.trimmed() : text;
 }
 
-/// Shows the message about a duplicate from the event loop. When the editor is closed, the delegate
-/// and the table are still processing the cell. A message box at that point would run a nested
-/// event loop, in which the host could delete them.
+/// Shows the message about a duplicate from the event loop. When the cell's editor is closed, the
+/// delegate and the table are still processing the cell. A message box at that point would run a
+/// nested event loop, in which the host could delete them.
 void USSDEditCmd::refuseLater(QTableWidgetItem *item)
 {
     if (m_refusedItems.contains(item))

@@ -17,7 +17,7 @@ class QFile;
 class QXmlStreamReader;
 class ReplyTimer;
 
-/** The text appearance that GetCharSet() returns. */
+/** Specifies for which lines of the transcript GetCharSet() returns the text appearance. */
 enum _CHAR_SET_COLOR { CHAR_SET_SEND = 0, CHAR_SET_RECEIVE = 1 };
 
 /** The attributes of a component in the configuration. The values 3 and 4 are not used. */

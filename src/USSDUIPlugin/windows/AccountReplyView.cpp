@@ -39,7 +39,7 @@ bool holdsRightToLeftLetter(const QString &text)
     return false;
 }
 
-/// Removes the directional formatting characters U+202A to U+202E.
+/// Returns the text without the directional formatting characters U+202A to U+202E.
 QString withoutDirectionMarks(const QString &text)
 {
     QString kept;
