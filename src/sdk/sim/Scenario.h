@@ -66,7 +66,7 @@ struct SmsRule {
     Milliseconds delay = Milliseconds(0);
 };
 
-/** A change to the device at a specified time after the start, which may be repeated. */
+/** A change to the device at a specified time after the simulation starts. It may be repeated. */
 struct TimedEvent {
     Milliseconds after = Milliseconds(0);
     std::optional<Milliseconds> every;
