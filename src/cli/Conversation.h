@@ -42,7 +42,8 @@ public:
 
     /// Sends the string and waits for the reply. If the time limit expires or a signal arrives
     /// first, cancels the request. Does not send the string if a signal has arrived, or if the
-    /// modem has been replaced since the first string, because another subscriber would be charged.
+    /// modem has been replaced since the first string was sent, because another subscriber would be
+    /// charged.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();
