@@ -163,7 +163,8 @@ long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord)
     return 1;
 }
 
-/// Returns the folder in $TKSV_USER_DATA, which must exist. Fails if the variable is not set.
+/// Returns the folder specified by $TKSV_USER_DATA, which must exist. Fails if the variable is not
+/// set.
 long TKSV_GetUserDataDirectory(unsigned short **directory)
 {
     const QString chosen = QFile::decodeName(qgetenv("TKSV_USER_DATA"));
