@@ -58,7 +58,7 @@ struct ProvisionOrder {
 struct ProvisionOutcome {
     enum State {
         Written,
-        Current, // the files already exist; manual changes are kept
+        Current, // the folder already contains these files; manual changes are kept
         Refused, // would have replaced files that were modified manually or not provisioned
         Failed
     };
