@@ -35,8 +35,8 @@ int sendLine(Program &program, Conversation &conversation, const std::string &co
     return result;
 }
 
-/// Sends the non-empty lines of standard input. Stops after a line whose exit code is not
-/// EXIT_DONE.
+/// Sends the non-empty lines of standard input. Stops after a line that cannot be sent or whose
+/// code fails, and returns its exit code.
 int sendLines(Program &program, Conversation &conversation)
 {
     LineReader reader(program.waits());
