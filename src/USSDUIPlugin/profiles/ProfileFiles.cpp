@@ -203,7 +203,7 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
 }
 
 /// Creates the folder of the user file, but not its parent folders. Does not create the folder of
-/// the system file.
+/// the system file. Returns false if the folder cannot be created.
 bool USSDEditCmd::makeParentDirectory(const QString &path, bool isSystem)
 {
     const QString directory = parentDirectory(path);

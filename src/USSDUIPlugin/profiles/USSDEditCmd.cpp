@@ -375,8 +375,8 @@ void USSDEditCmd::OnClickedSaveButton()
     saveAsPlanned(plan);
 }
 
-/// Determines whether the profiles can be saved. This must be known in advance, because saving
-/// deletes the old files first.
+/// Determines which files can be saved. This must be known in advance, because saving deletes the
+/// old files first.
 USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
 {
     SavePlan plan;

@@ -229,9 +229,9 @@ int USSDLogic::sendUSSDCommand(QString command, int *status)
     return sendUSSDCommand(command, head.number, status) == FAILED ? FAILED : SENT;
 }
 
-/// Sends the head to the device. If this fails, no signal is emitted, because the caller receives
-/// the result. The commands behind the failed command intentionally remain in the queue until a
-/// late reply arrives or the queue is cleared.
+/// Sends the head to the device. Returns SENT, FAILED or NOT_THE_HEAD. If sending fails, no signal
+/// is emitted, because the caller receives the result. The commands behind the failed command
+/// intentionally remain in the queue until a late reply arrives or the queue is cleared.
 int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *status)
 {
     USSD_LOG_SCOPE();

@@ -106,8 +106,8 @@ QSize AccountReplyView::minimumSizeHint() const
     return sizeHint();
 }
 
-/// Copies the selection without the directional formatting characters that showText() inserts. They
-/// would make a copied code unusable.
+/// Returns the selection without the directional formatting characters that showText() inserts.
+/// These characters would make a copied code unusable.
 QMimeData *AccountReplyView::createMimeDataFromSelection() const
 {
     QMimeData *data = new QMimeData;
