@@ -29,8 +29,9 @@ bool declaresEntity(QByteArray bytes)
     return bytes.replace('\0', "").contains(ENTITY_DECLARATION);
 }
 
-/// Searches the device for an entity declaration, and then restores the position. The function
-/// searches the raw bytes, because parsing the document would already expand parameter entities.
+/// Returns true if the device contains an entity declaration, and restores the current position.
+/// The function searches the raw bytes, because parsing the document would already expand parameter
+/// entities.
 bool declaresEntity(QIODevice &device)
 {
     const qint64 start = device.pos();
