@@ -256,7 +256,7 @@ bool Writer::linkPlugin(const QString &filesFolder)
                            m_outcome.problem);
 }
 
-/// Activates the new set of files for the plug-in.
+/// Activates the new set of files for the plug-in. Returns true on success.
 bool Writer::putInUse(int number)
 {
     const QString path = m_order.folder + IN_USE;

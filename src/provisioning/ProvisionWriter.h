@@ -44,7 +44,7 @@ struct Provision {
     bool isUsable() const;
 };
 
-/// Examines the folder without changing it. May be called from any thread.
+/// Returns the contents of the folder, which is not changed. May be called from any thread.
 Provision readProvision(const QString &folder);
 
 struct ProvisionOrder {
