@@ -190,8 +190,8 @@ Outcome Conversation::send(const std::string &text)
     return outcome;
 }
 
-/// Waits for the response. When the request has obtained its turn, the time limit starts again.
-/// Stops waiting if ModemManager does not respond.
+/// Waits for the response and returns the outcome. The time limit starts again whenever the request
+/// starts or stops waiting for its turn. Stops waiting if ModemManager does not respond.
 Outcome Conversation::await(Clock::time_point start)
 {
     Clock::time_point end = start + m_timeout;

@@ -11,7 +11,8 @@ namespace Cli
 namespace
 {
 
-/// Sends a code, and then the answers to its menus. Stops after the first failure.
+/// Sends a code, and then the answers to its menus. Stops after the first failure and returns its
+/// exit code.
 int sendWords(Program &program, Conversation &conversation, const Words &words)
 {
     const int result = program.send(conversation, words.front(), Program::Kind::Code);
