@@ -385,8 +385,10 @@ USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
     return plan;
 }
 
-/// Returns true if the file must be written. A file that is not writable is skipped if its profiles
-/// have not changed. This is a common case, because the system file often belongs to root.
+/// Returns true if the file can be saved. Otherwise, adds an error message to `plan` if the file is
+/// damaged or if changes would be lost. A file that is not writable is skipped without a message if
+/// its profiles have not changed. This is a common case, because the system file often belongs to
+/// root.
 bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
 {
     const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);
