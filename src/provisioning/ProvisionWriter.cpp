@@ -73,8 +73,8 @@ bool hasAll(const QString &filesFolder, const ProvisionRecord &record)
     return record.isValid();
 }
 
-/// Removes all files that have not been modified. Removes the folder as well if it is empty
-/// afterwards.
+/// Removes a set of files and its folder. Does nothing if a file has been modified or added
+/// manually.
 void removeUnchanged(const QString &filesFolder)
 {
     const ProvisionRecord record = recordOf(filesFolder);
