@@ -38,9 +38,9 @@ AccountEntry entryAt(const QDateTime &time)
     return entry;
 }
 
-/// Fills the database with entries over the last year. The schema and one entry come from the
-/// program itself. The other entries are copies of it, because each of them would otherwise be a
-/// transaction that waits for the disk.
+/// Fills the database with entries from the last year. The schema and one entry come from the
+/// program itself. The other entries are copies of this entry, because each of them would otherwise
+/// be a transaction that waits for the disk.
 void fill(const QString &file, int count)
 {
     {
@@ -72,7 +72,7 @@ void fill(const QString &file, int count)
     QSqlDatabase::removeDatabase(name);
 }
 
-/** A front page whose replies are in the file. */
+/** A front page that shows the replies in a database file. */
 class Front
 {
 public:

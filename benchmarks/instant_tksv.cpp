@@ -1,7 +1,8 @@
 /*
  * A device SDK that does as little as possible: it copies the request and replies immediately from
- * its own thread. A queued signal passes the request to this thread, as in the bare round trip. The
- * difference between the two is therefore the cost of the pipeline.
+ * its own thread. A queued signal passes the request to this thread, as in the bare round trip of
+ * pipeline_benchmark. The difference between the two round trips is therefore the cost of the
+ * pipeline.
  */
 #include "instant_tksv.h"
 
@@ -163,7 +164,8 @@ long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord)
     return 1;
 }
 
-/// Returns the folder in $TKSV_USER_DATA, which must exist. Fails if the variable is not set.
+/// Returns the folder specified by $TKSV_USER_DATA, which must exist. Fails if the variable is not
+/// set.
 long TKSV_GetUserDataDirectory(unsigned short **directory)
 {
     const QString chosen = QFile::decodeName(qgetenv("TKSV_USER_DATA"));

@@ -161,8 +161,9 @@ double eachOf(int times, const Trip &trip)
            times;
 }
 
-/// Measures one step with queues of this length. For short queues, the step is repeated until the
-/// total number of commands equals that of the long queue.
+/// Measures a step with queues of this length and returns the time per command in microseconds. For
+/// short queues, the step is repeated until the total number of commands equals that of the long
+/// queue.
 double stepOfQueue(int length, const std::function<void()> &before,
                    const std::function<void()> &step, const std::function<void()> &after)
 {
@@ -175,7 +176,8 @@ double stepOfQueue(int length, const std::function<void()> &before,
     return sum / LONG_QUEUE;
 }
 
-/// A function that performs a step with a queue of the given length and returns the time taken.
+/// A function that performs a step with queues of the given length and returns the time per
+/// command.
 typedef std::function<double(int)> QueueStep;
 
 void compareQueues(const char *step, const QueueStep &measure)

@@ -1,7 +1,7 @@
 /*
  * Measures complete processes: the time from the start of a program until its first window has been
- * painted, and the memory used so far. The preloaded library first_window.cpp takes the
- * measurements in all programs.
+ * painted, and the peak memory usage up to this point. A preloaded library, which is built from
+ * first_window.cpp, takes these measurements in all programs.
  */
 #include <algorithm>
 #include <cstdio>

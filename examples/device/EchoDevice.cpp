@@ -90,8 +90,8 @@ class CallbackList
 {
 public:
     long add(TKSV_EventCallback callback);
-    /// Removes the call-back. Waits until the call-back is not running, unless a call-back makes
-    /// this call.
+    /// Removes the call-back. Waits until no call-back is running, unless a call-back calls this
+    /// function. Fails if the call-back is not registered.
     long remove(TKSV_EventCallback callback);
     bool isEmpty();
     void call(int event, void *data);

@@ -107,8 +107,8 @@ QString named(const char *role)
     return QLatin1String("USSDUIPlugin_AdvancedDialog_") + QLatin1String(role);
 }
 
-/// Sends the code and waits for the reply. The wait ends when the plug-in enables the input field
-/// again, after either a reply or a time-out.
+/// Sends the code, waits for the reply and prints the transcript. The wait ends when the plug-in
+/// enables the input field again, after either a reply or a time-out. Returns the exit code.
 int sendOnce(QWidget *page, const QString &code)
 {
     const QPointer<QLineEdit> edit(page->findChild<QLineEdit *>(named("USSDCmdEdit")));

@@ -11,9 +11,9 @@ namespace Chains
 namespace
 {
 
-const int SHORTEST_PHONE_NUMBER = 7;       // digits
-const std::size_t LONGEST_CODE = 182;      // bytes
-const std::size_t LONGEST_TEXT = 1000;     // bytes
+const int SHORTEST_PHONE_NUMBER = 7;       // in digits
+const std::size_t LONGEST_CODE = 182;      // in bytes
+const std::size_t LONGEST_TEXT = 1000;     // in bytes
 const char SEPARATOR[] = " \xe2\x80\xba "; // a single angle quotation mark
 
 bool isBetweenDigits(gunichar character)

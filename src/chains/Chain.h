@@ -12,15 +12,17 @@ namespace Chains
 const std::size_t MOST_STEPS = 20;
 
 /**
- * A walk through the menus of a code: the code, and the choice of each menu. A step contains the
- * words of its line, so that the key is sent only while the menu offers the same choice.
+ * A walk through the menus that a code opens: the code, and the choice made in each menu. Each step
+ * contains the text of its menu line, so that the key is sent only if the menu still offers the
+ * same choice.
  */
 struct Chain {
     std::string name;
     std::string code;
     std::vector<Choice> steps;
 
-    /// Returns true if both chains send the same strings for the same reasons.
+    /// Returns true if both chains have the same code, and the same keys and menu lines in each
+    /// step. The names of the chains may differ.
     bool isSameWalk(const Chain &other) const;
     /// Returns the number of strings that the chain sends: the code and the key of each step.
     std::size_t length() const { return steps.size() + 1; }
@@ -28,10 +30,12 @@ struct Chain {
     std::string keys() const;
 };
 
-/// Returns true if the choice may be kept. A line that contains a phone number may not.
+/// Returns true if the choice may be stored in a chain. A choice must not be stored if its menu
+/// line contains a phone number.
 bool mayBeKept(const Choice &choice);
 
-/// Returns true if the chain can be run: it has a name, a code and steps of the form of choices.
+/// Returns true if the chain can be run: it has a name, a code and at least one step, and every
+/// step has the form of a menu choice.
 bool isComplete(const Chain &chain);
 
 } // namespace Chains

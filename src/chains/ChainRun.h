@@ -6,28 +6,28 @@
 namespace Chains
 {
 
-/** What follows from a reply to a string that the run has sent. */
+/** The next step of a run, which depends on the network's most recent reply. */
 struct ChainStep {
     enum class Verdict {
         Send,    // the menu still offers the choice; send `key`
-        Done,    // the reply is the last one of the chain
-        NoMenu,  // the network has opened no menu, although there are more steps
-        Changed, // the menu offers another choice for the key, or none
+        Done,    // all strings of the chain have been sent; the reply belongs to the last one
+        NoMenu,  // the chain has more steps, but the network did not open a menu
+        Changed, // the menu offers a different choice for the key, or no choice
     };
 
     Verdict verdict = Verdict::Done;
     std::string key;
-    std::string expected;   // the words of the choice that was kept
-    std::string offered;    // the words that now belong to the key; empty if there are none
-    std::size_t number = 0; // of the string to send; the code is number 1
+    std::string expected;   // the text of the choice that is stored in the chain
+    std::string offered;    // the text that the menu now shows for the key; empty if there is none
+    std::size_t number = 0; // the number of the string to send; the code has the number 1
 
     bool hasStopped() const { return verdict == Verdict::NoMenu || verdict == Verdict::Changed; }
 };
 
 /**
  * Decides for each reply whether the next step of a chain may be sent. A step may be sent only if
- * the network waits for an answer to a menu in which the key stands for the same words as when the
- * chain was kept. The run sends nothing itself.
+ * the network is waiting for an answer to a menu in which the key still has the text that is stored
+ * in the chain. The class itself does not send anything.
  */
 class ChainRun
 {
@@ -35,9 +35,10 @@ public:
     explicit ChainRun(const Chain &chain) : m_chain(chain) {}
 
     const Chain &chain() const { return m_chain; }
-    /// Returns the number of steps that have been permitted so far.
+    /// Returns the number of steps that takeReply() has permitted so far.
     std::size_t stepsSent() const { return m_next; }
-    /// Takes the reply to the string that was sent last: the code, or the key of a step.
+    /// Returns the next step. `reply` is the reply to the string that was sent last: the code, or
+    /// the key of a step.
     ChainStep takeReply(const std::string &reply, bool waitsForAnswer);
 
 private:

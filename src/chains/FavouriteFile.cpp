@@ -10,7 +10,7 @@ namespace
 {
 
 const int VERSION = 1;
-const int DEEPEST = 16; // nested objects and arrays; json-glib itself has no limit
+const int DEEPEST = 16; // maximum nesting depth; json-glib itself has no limit
 
 using Node = std::unique_ptr<JsonNode, decltype(&json_node_unref)>;
 
@@ -38,7 +38,7 @@ bool isShallow(const std::string &json)
     return true;
 }
 
-/// Parses the object. Returns null if the string is not a JSON object.
+/// Parses the string. Returns null if the string is not a JSON object or is nested too deeply.
 Node parse(const std::string &json)
 {
     JsonNode *root = nullptr;
@@ -71,7 +71,7 @@ bool hasKnownVersion(JsonObject *object)
            json_node_get_int(node) == VERSION;
 }
 
-/** Reads the networks, and notices everything that it must leave out. */
+/** Reads the networks. Skips invalid parts and clears FavouriteFile::isWhole if there are any. */
 class Reader
 {
 public:
@@ -82,7 +82,8 @@ private:
     NetworkFavourites readNetwork(JsonObject *object);
     Favourite readFavourite(JsonObject *object, const NetworkFavourites &network);
     static Chain readChain(JsonObject *object);
-    /// Returns the elements of an array. A missing array has no elements.
+    /// Returns the objects in the array `name` of `parent`. Returns an empty list if there is no
+    /// such array.
     std::vector<JsonObject *> objects(JsonObject *parent, const char *name);
 
     FavouriteFile &m_file;
@@ -124,7 +125,8 @@ Chain Reader::readChain(JsonObject *object)
     return chain;
 }
 
-/// Returns a favourite without a name if the object is not one.
+/// Returns the favourite that the object describes. If the object is not valid, returns a favourite
+/// without a name and a code.
 Favourite Reader::readFavourite(JsonObject *object, const NetworkFavourites &network)
 {
     Favourite favourite{stringIn(object, "name"), stringIn(object, "code")};

@@ -28,27 +28,28 @@ struct NetworkFavourites {
     std::vector<Favourite> favourites;
     std::vector<Chain> chains;
 
-    /// Returns the chain with this name, or null.
+    /// Returns the chain with this name, or null if there is none.
     const Chain *chain(const std::string &name) const;
 };
 
-/** The contents of the file of the favourites; docs/ussd.md describes the format. */
+/** The contents of the favourites file, whose format is described in docs/ussd.md. */
 struct FavouriteFile {
-    std::map<std::string, NetworkFavourites> networks; // by MCC and MNC, or a name below
-    bool isWhole = true; // false if something in the file could not be read
+    std::map<std::string, NetworkFavourites> networks; // keyed by MCC and MNC, or by a key below
+    bool isWhole = true; // false if a part of the file could not be read
 
-    /// Reads everything in the file that can be read. An empty string is an empty file.
+    /// Parses the contents of the file and skips the invalid parts. An empty string is valid and
+    /// contains no favourites.
     static FavouriteFile fromJson(const std::string &json);
     std::string toJson() const;
 };
 
-/// The name of the file in the user's data folder.
+/// The name of the favourites file, which is in the user's data folder.
 extern const char *const FAVOURITE_FILE;
-/// The key of favourites that were selected without a known home network.
+/// The key for favourites that were selected while the home network was unknown.
 extern const char *const UNKNOWN_NETWORK;
-/// The key of favourites that were selected in a demonstration, whatever its home network is.
+/// The key for favourites that were selected in a demonstration, regardless of its home network.
 extern const char *const DEMONSTRATION_NETWORK;
-/// The size above which the file is not read, in bytes.
+/// The maximum size of the file in bytes. A larger file is not read.
 extern const std::size_t LARGEST_FAVOURITE_FILE;
 
 } // namespace Chains

@@ -12,7 +12,8 @@ namespace Chains
 namespace
 {
 
-// A number that continues after the dot or colon is an amount, a date or a time.
+// The dot or colon after the key must not be followed by a digit. Otherwise, the line starts with
+// an amount, a date or a time.
 const char CHOICE[] = "(*UCP)^\\s*(\\d{1,3}|[*#])(?:\\s*[.):\\x{ff1a}\\x{3001}](?:\\s+|(?!\\d))|"
                       "\\s+[-\\x{2013}\\x{2014}]\\s+|\\s+)(\\S.*)$";
 
@@ -56,7 +57,8 @@ bool readChoice(const std::string &line, Choice &choice)
     return true;
 }
 
-/// Returns true for a key that goes back, or that ends the menu.
+/// Returns true if the key may only follow all other keys of a menu. Such a key usually opens the
+/// previous menu or ends the session.
 bool isLastKey(const std::string &key)
 {
     return key == "0" || key == "00" || key == "*" || key == "#";

@@ -8,7 +8,7 @@ void WalkRecorder::takeReply(const std::string &sent, bool isCode, bool mayKeepC
 {
     if (sent.empty()) {
         if (waitsForAnswer)
-            forget(); // the next answer belongs to the network's own menu
+            forget(); // the next answer belongs to the menu that the network has initiated
         return;
     }
     if (isCode)

@@ -7,23 +7,26 @@ namespace Chains
 {
 
 /**
- * Records the walk that the user takes through the menus of a code. Only choices are recorded. An
- * answer that is not a choice may be a PIN or a phone number, so the walk ends before this answer,
- * and the network asks for it again each time the chain is run.
+ * Records the walk that the user takes through the menus that a code opens. Only choices are
+ * recorded. An answer that is not a choice may be a PIN or a phone number. The recorded walk
+ * therefore ends before this answer, and the user must enter the answer each time the chain is run.
  */
 class WalkRecorder
 {
 public:
-    /// Takes a reply. `sent` is the code or the answer that it answers; it is empty for a message
-    /// that the network initiated. `mayKeepCode` is false if the code contains a number or a PIN.
+    /// Records a reply. `sent` is the code or the answer to which the network has replied; it is
+    /// empty for a network-initiated message. If `mayKeepCode` is false, the walk is not recorded,
+    /// because the code contains a number or a PIN.
     void takeReply(const std::string &sent, bool isCode, bool mayKeepCode, const std::string &reply,
                    bool waitsForAnswer);
     /// Records that the session has ended without a reply.
     void end();
-    /// Forgets the walk, because it has failed or belongs to another SIM.
+    /// Discards the recorded walk. Call this function if the walk has failed or if the SIM has been
+    /// replaced.
     void forget();
 
-    /// Returns the walk if it has ended and can be kept; otherwise, a chain without steps.
+    /// Returns the recorded walk if the session has ended. Otherwise, or if no choice was recorded,
+    /// returns a chain without steps.
     Chain finished() const;
 
 private:

@@ -24,7 +24,8 @@ void append(std::string &text, gunichar character)
     text.append(bytes, static_cast<std::size_t>(g_unichar_to_utf8(character, bytes)));
 }
 
-/// Returns the composed words with one space between them.
+/// Returns the words in composed form (NFC), separated by single spaces. Direction marks are
+/// removed.
 std::string simplified(const std::string &text)
 {
     const Text composed(g_utf8_normalize(text.c_str(), -1, G_NORMALIZE_NFC), g_free);

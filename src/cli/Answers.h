@@ -12,7 +12,7 @@ class Program;
 
 using Words = std::vector<std::string>;
 
-/// Sends the strings from the index `first` on as answers to the menus. Stops at the first failure.
+/// Sends the words, starting at index `first`, as answers to the menus. Stops at the first failure.
 /// Ends the session if the last reply is a menu. Returns the exit code.
 int sendAnswers(Program &program, Conversation &conversation, const Words &words,
                 std::size_t first);

@@ -10,7 +10,7 @@ namespace Cli
 {
 
 /// Returns an empty string if the UTF-8 string can be sent as a code or an answer, otherwise the
-/// reason why not.
+/// reason why it cannot be sent.
 std::string commandProblem(const std::string &text);
 
 /// Returns true if the string starts with * or # and ends with #. The device library treats such a

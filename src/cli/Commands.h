@@ -7,9 +7,9 @@ namespace Cli
 class Program;
 
 /*
- * Each of these functions executes a command and returns its exit code. Program::selectDevice()
- * must have succeeded, except for printFavourites(). The caller replaces the exit code if a signal
- * has arrived or if writing to standard output has failed.
+ * Each of these functions executes a command and returns its exit code. Except for
+ * printFavourites(), they may be called only after Program::selectDevice() has succeeded. The exit
+ * code is replaced later if a signal has arrived or if writing to standard output has failed.
  */
 
 int send(Program &program);

@@ -16,8 +16,8 @@ namespace
 /// The time limit for cancelling a request on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
-/// The additional time limit of the library when it waits for a turn. The program therefore always
-/// gives up first.
+/// The time by which the library's time limit for waiting for a turn exceeds the program's own time
+/// limit. The program therefore always gives up first.
 const Milliseconds TURN_GRACE(5000);
 
 /// The time for which the program waits for a reply before it starts to observe the device. This
@@ -190,8 +190,8 @@ Outcome Conversation::send(const std::string &text)
     return outcome;
 }
 
-/// Waits for the response. When the request has obtained its turn, the time limit starts again.
-/// Stops waiting if ModemManager does not respond.
+/// Waits for the response and returns the outcome. The time limit starts again whenever the request
+/// starts or stops waiting for its turn. Stops waiting if ModemManager does not respond.
 Outcome Conversation::await(Clock::time_point start)
 {
     Clock::time_point end = start + m_timeout;

@@ -40,9 +40,10 @@ public:
     /// Sets a function that is called once for every request that has to wait for another program.
     void onTurnAwaited(std::function<void()> notify) { m_turnAwaited = std::move(notify); }
 
-    /// Sends the string and waits for the reply. If the time limit expires or a signal arrives
-    /// first, cancels the request. Does not send the string if a signal has arrived, or if the
-    /// modem has been replaced since the first string, because another subscriber would be charged.
+    /// Sends the string, waits for the reply and returns the outcome. If the time limit expires or
+    /// a signal arrives first, cancels the request. Does not send the string if a signal has
+    /// arrived, or if the modem has been replaced since the first string was sent, because another
+    /// subscriber would be charged.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();

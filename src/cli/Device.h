@@ -37,7 +37,8 @@ public:
     /// Waits until the modem can send codes. Stops waiting if the user must solve a problem first.
     /// Returns true if codes can be sent.
     bool awaitReady(Milliseconds limit);
-    /// Enables the modem if it is disabled, and waits until it can send codes.
+    /// Enables the modem if it is disabled, and waits until it can send codes. Returns true if
+    /// codes can be sent.
     bool enable(Milliseconds limit);
     /// Ends the session of another program. Returns true if there is no such session afterwards.
     bool endForeignSession(Milliseconds limit);

@@ -8,7 +8,7 @@ namespace Cli
 {
 
 /**
- * A JSON object in a single line. The members are written in the order in which they were added.
+ * A JSON object on a single line. The members are written in the order in which they were added.
  */
 class Json
 {

@@ -169,7 +169,7 @@ std::string problemOfWords(const CommandRow &row, const Options &options)
     std::string problem = problemOfNumber(row, options);
     if (row.command == Command::Send && words.size() == 1 && words.front() == READS_INPUT)
         return problem;
-    // The first argument of `run` is the name of a favourite, which may contain anything.
+    // The first argument of `run` is the name of a favourite, which may contain any characters.
     for (std::size_t i = row.takesList ? 1 : 0; i < words.size() && problem.empty(); ++i)
         problem = i == 0 ? problemOfWord(words[i]) : problemOfAnswer(words[i]);
     return problem;

@@ -145,8 +145,8 @@ int Program::send(Conversation &conversation, const std::string &text, Kind kind
     return exitCodeOf(outcome.failure.reason);
 }
 
-/// Returns a hint if the failure is due to another program's session. There is no hint for a
-/// program of the same user, because it will release the modem without intervention.
+/// Returns a hint if the failure is due to another program's session. Returns an empty string if
+/// the other program belongs to the same user, because it will release the modem by itself.
 std::string Program::hintFor(const Outcome &outcome) const
 {
     if (outcome.failure.reason != TKSV_FAILURE_IN_USE || outcome.hasMissedTurn)

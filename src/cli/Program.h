@@ -52,7 +52,7 @@ public:
     int send(Conversation &conversation, const std::string &text, Kind kind);
     /// Returns the newest reply, in UTF-8.
     const std::string &lastReply() const { return m_lastReply; }
-    /// Waits until the home network of the SIM is known, but only for a short time.
+    /// Waits for a short time until the home network of the SIM is known or codes cannot be sent.
     void awaitSim();
 
 private:

@@ -16,11 +16,11 @@ namespace
 using Chains::Chain;
 using Chains::ChainStep;
 
-const char PLACE[] = "%s";              // the place for a number in a code
-const std::size_t SHORTEST_NETWORK = 5; // digits of MCC and MNC
+const char PLACE[] = "%s";              // the placeholder for a number in a code
+const std::size_t SHORTEST_NETWORK = 5; // minimum number of digits of MCC and MNC together
 const char NUMBER_CHARACTERS[] = "0123456789+*";
 
-/** What is sent for a favourite: a code, or a chain, which has steps. */
+/** A favourite and its home network. If the favourite is a code, the chain has no steps. */
 struct Item {
     Chain chain;
     std::string network;
@@ -31,7 +31,7 @@ std::string quoted(const std::string &text)
     return "'" + text + "'";
 }
 
-/// Returns the favourites of all networks, and the chains that are not among them.
+/// Returns the favourites and the chains of all networks, including chains that are not favourites.
 std::vector<Item> itemsIn(const Chains::FavouriteFile &file)
 {
     std::vector<Item> items;
@@ -62,7 +62,8 @@ bool readItems(Program &program, std::vector<Item> &items)
 }
 
 /// Returns true if the favourite was selected for the home network of the SIM, or in a
-/// demonstration if the network is simulated. In another network, the same code may buy something.
+/// demonstration if the network is simulated. In another network, the same code could make a
+/// purchase.
 bool isOfSim(const Item &item, const TKSV_DeviceInfo &device)
 {
     const std::string code = device.simOperatorCode;
@@ -89,8 +90,8 @@ std::vector<Item> named(const std::vector<Item> &items, const std::string &name)
     return found;
 }
 
-/// Finds the favourite of the SIM's home network. Returns an error message if there is not exactly
-/// one.
+/// Sets `found` to the item that belongs to the SIM's home network. All items are favourites with
+/// the name `name`. Returns an error message if the number of suitable items is not exactly one.
 std::string findItem(const std::vector<Item> &items, const std::string &name,
                      const TKSV_DeviceInfo &device, Item &found)
 {
@@ -108,7 +109,8 @@ std::string findItem(const std::vector<Item> &items, const std::string &name,
     return std::string();
 }
 
-/// Puts the number in its place. Returns an error message if that is not possible.
+/// Replaces the placeholder in the code, if any, with the number that follows the favourite's name
+/// in `words`. Returns an error message if the number is missing.
 std::string fillPlace(Chain &chain, const Words &words, std::size_t &firstAnswer)
 {
     const std::size_t place = chain.code.find(PLACE);
@@ -158,7 +160,8 @@ int stop(Program &program, Conversation &conversation, const Chain &chain, const
     return isMenuOpen ? EXIT_MENU_OPEN : EXIT_REFUSED;
 }
 
-/// Sends the code and the steps of the chain, and then the answers of the command line.
+/// Sends the code and the steps of the chain, and then the answers from the command line, which
+/// start at index `firstAnswer`. Returns the exit code.
 int runChain(Program &program, const Chain &chain, std::size_t firstAnswer)
 {
     Conversation conversation(program.device(), program.waits(), program.options().timeout);

@@ -11,7 +11,8 @@ namespace Cli
 namespace
 {
 
-/// Sends a code, and then the answers to its menus. Stops after the first failure.
+/// Sends a code, and then the answers to its menus. Stops after the first failure and returns its
+/// exit code.
 int sendWords(Program &program, Conversation &conversation, const Words &words)
 {
     const int result = program.send(conversation, words.front(), Program::Kind::Code);
@@ -35,8 +36,8 @@ int sendLine(Program &program, Conversation &conversation, const std::string &co
     return result;
 }
 
-/// Sends the non-empty lines of standard input. Stops after a line whose exit code is not
-/// EXIT_DONE.
+/// Sends the non-empty lines of standard input. Stops after a line that cannot be sent or whose
+/// code fails, and returns its exit code.
 int sendLines(Program &program, Conversation &conversation)
 {
     LineReader reader(program.waits());

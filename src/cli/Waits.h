@@ -38,7 +38,8 @@ public:
     /// Waits until the condition is true. Returns false if the time limit expires or a signal
     /// arrives first.
     bool until(const Condition &condition, Clock::time_point end);
-    /// Waits until the condition is true or the time limit expires, even if a signal has arrived.
+    /// Waits until the condition is true, even if a signal has arrived. Returns false if the time
+    /// limit expires first.
     bool untilDespiteSignal(const Condition &condition, Milliseconds limit);
     /// Waits until the file is ready for one of the poll() events in `events`, or until the
     /// condition is true. Returns true if the file is ready. Returns immediately if a signal has

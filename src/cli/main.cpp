@@ -21,7 +21,7 @@ void reserveStandardStreams()
 {
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
         if (fcntl(stream, F_GETFD) == -1)
-            open("/dev/null", O_RDONLY); // uses the lowest free descriptor, which is this one
+            open("/dev/null", O_RDONLY); // uses the lowest free descriptor, which is `stream`
     }
 }
 

@@ -11,8 +11,8 @@ namespace
 {
 
 /**
- * Makes Escape close the frame in the same way as its close button. By default, QDialog hides the
- * window on Escape without a close event, so that dlgCloseEvent() would not be emitted.
+ * Makes Escape close the frame in the same way as its close button. By default, Escape hides a
+ * QDialog without sending a close event, so that dlgCloseEvent() would not be emitted.
  */
 class EscapeCloses : public QObject
 {

@@ -11,8 +11,8 @@ namespace HostCore
 
 /**
  * The state of the host program. The host sets the state, and plug-ins query it through CommonUtils
- * and Startup. HostState does not own the objects. Unless documented otherwise, the functions must
- * be called from the GUI thread.
+ * and Startup. HostState owns neither the main window nor the container. Unless documented
+ * otherwise, the functions must be called from the GUI thread.
  */
 class Q_DECL_EXPORT HostState
 {
@@ -23,7 +23,7 @@ public:
     /// Returns the main window, or null if there is none.
     static QWidget *mainWindow();
 
-    /// Sets the host's small mode, in which windows have no frames.
+    /// Sets whether the host runs in its small mode, in which windows have no frames.
     static void setMiniMode(bool mini);
     /// Returns true if the host runs in its small mode.
     static bool isMiniMode();

@@ -9,7 +9,7 @@ namespace HostCore
 
 /**
  * The languages of the host. Each language has a compiled Qt Linguist file whose source texts are
- * the text keys. An operator can replace the texts of the plug-in, see OperatorTexts. Languages are
+ * the text keys. An operator can replace the texts of the plug-in; see OperatorTexts. Languages are
  * identified by their ISO 639-1 codes ("en", "ar"), followed by a country
  * if there are several variants ("pt_BR").
  */
@@ -24,19 +24,19 @@ public:
         NoSuchLanguage ///< the host does not support the language
     };
 
-    /// Returns the languages whose files are installed, in the order of the language menu. The list
-    /// always contains English. May be called from any thread.
+    /// Returns the codes of the languages whose files are installed, in the order of the language
+    /// menu. The list always contains "en". May be called from any thread.
     static QStringList codes();
-    /// Returns the code of the language for the name of a locale, such as "pt_BR.UTF-8" or "de_AT".
-    /// The language need not be known. May be called from any thread.
+    /// Returns the language code for the name of a locale, such as "pt_BR.UTF-8" or "de_AT". The
+    /// host need not support this language. May be called from any thread.
     static QString codeFor(const QString &locale);
-    /// Returns the name of the language in the language itself, or the code if the language is
+    /// Returns the native name of the language, such as "Deutsch", or the code if the language is
     /// unknown. May be called from any thread.
     static QString nativeName(const QString &code);
     /// Returns true if the language is written from right to left. May be called from any thread.
     static bool isRightToLeft(const QString &code);
-    /// Returns the language of Change::tr(). The initial language is English. May be called from
-    /// any thread.
+    /// Returns the code of the language that Change::tr() uses. The initial language is English.
+    /// May be called from any thread.
     static QString current();
 
     /// Selects `code` as the language of Change::tr(), of Qt's own strings and of the default
@@ -56,8 +56,8 @@ public:
     /// build. QTranslator can crash if it uses a damaged file. May be called from any thread.
     static bool isWhole(const QByteArray &content);
 
-    /// Discards the operator's texts, so that the next lookup reads them again. setCurrent() and
-    /// PluginFolderChoice::use() have the same effect. May be called from any thread.
+    /// Discards the operator's texts, so that the next lookup reads the file again. setCurrent()
+    /// and PluginFolderChoice::use() have the same effect. May be called from any thread.
     static void forgetOperatorTexts();
 
     /// Returns the same string as Change::tr(). May be called from any thread.

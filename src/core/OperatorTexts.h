@@ -11,7 +11,7 @@ namespace HostCore
 
 /**
  * The texts with which an operator extends or overrides the language files. They are read from a
- * file in the folder of the plug-in, so that they can be changed without a new build:
+ * file in the folder of the plug-in, so that they can be changed without rebuilding the program:
  *
  *   # a comment
  *   [de]
@@ -38,8 +38,8 @@ public:
     /// Returns the path of the file. `pluginLibrary` is the folder that
     /// PluginFolderChoice::current() returns.
     static QString file(const QString &pluginLibrary);
-    /// Returns true if the string is a valid key: capital letters, digits and at least one
-    /// underscore.
+    /// Returns true if the string is a valid key, which consists of capital letters, digits and at
+    /// least one underscore.
     static bool isKey(const QString &text);
 
     OperatorTexts() {}
@@ -58,7 +58,7 @@ private:
 
     QList<Entry> m_entries;
     QList<Mistake> m_mistakes;
-    QHash<QString, QString> m_texts; // indexed by the result of keyOf()
+    QHash<QString, QString> m_texts; // keyed by the result of keyOf()
 };
 
 } // namespace HostCore

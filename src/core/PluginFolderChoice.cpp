@@ -66,7 +66,7 @@ void PluginFolderChoice::use(const QString &folder)
         QMutexLocker lock(&chosen.mutex);
         chosen.path = withoutTrailingSeparators(folder);
     }
-    Languages::forgetOperatorTexts(); // the files may be new even if the path is the same
+    Languages::forgetOperatorTexts(); // the files may have changed even if the path has not
 }
 
 } // namespace HostCore

@@ -8,10 +8,10 @@ namespace HostCore
 
 /**
  * Selects the folder from which plug-ins read their configuration and their profiles. This folder
- * contains the folder "plugins". The host can select a folder, for example that of an operator.
- * Otherwise, the folder in $USSD_PLUGIN_LIBRARY_PATH is used if the variable is set, or else the
- * installed folder. The paths do not end with a separator. The functions may be called from any
- * thread.
+ * contains the "plugins" folder. The host can select a folder, for example that of an operator.
+ * Otherwise, the folder specified by $USSD_PLUGIN_LIBRARY_PATH is used or, if the variable is not
+ * set, the installed folder. The paths do not end with a separator. The functions may be called
+ * from any thread.
  */
 class Q_DECL_EXPORT PluginFolderChoice
 {
@@ -22,7 +22,7 @@ public:
     static QString installed();
     /// Returns the installed folder, even if another folder is in use.
     static QString shipped();
-    /// Selects a folder. An empty path selects installed() again.
+    /// Selects a folder. An empty path selects the folder that installed() returns.
     static void use(const QString &folder);
 };
 

@@ -29,7 +29,7 @@ bool overridesDirection(ushort unit)
     return isIn(unit, 0x202a, 0x202e) || isIn(unit, 0x2066, 0x2069);
 }
 
-/// Replaces all kinds of line endings with line feeds.
+/// Returns the text with all kinds of line endings replaced with line feeds.
 QString withLineFeeds(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));

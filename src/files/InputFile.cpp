@@ -21,7 +21,7 @@ bool isSomethingElse(const QString &path)
 /// Opens the file. Returns an error message, or an empty string on success.
 QString problemOfOpening(QFile &file, QIODevice::OpenMode mode, qint64 mostBytes)
 {
-    if (isSomethingElse(file.fileName())) // before open(), which would wait at a pipe
+    if (isSomethingElse(file.fileName())) // checked first, because open() would block on a pipe
         return notRegular();
     if (!file.open(QIODevice::ReadOnly | mode))
         return file.errorString();

@@ -14,7 +14,8 @@ namespace InputFile
 {
 
 /// The default size limit. It is far above the size of any configuration, profile or language file.
-/// An XML parser may need 50 times as much memory if the file consists only of start tags.
+/// An XML parser may need 50 times the size of a file in memory if the file consists only of start
+/// tags.
 const qint64 MOST_BYTES = qint64(8) * 1024 * 1024;
 
 /// Opens `file`, whose name must be set, with `mode` and QIODevice::ReadOnly. Returns false and

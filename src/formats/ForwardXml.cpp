@@ -12,7 +12,7 @@ namespace
 {
 
 const char ENTITY_DECLARATION[] = "<!ENTITY";
-const int LONGEST_DECLARATION_START = 4 * int(sizeof ENTITY_DECLARATION); // in UTF-32
+const int LONGEST_DECLARATION_START = 4 * int(sizeof ENTITY_DECLARATION); // in bytes (UTF-32)
 const qint64 BLOCK_SIZE = qint64(64) * 1024;
 
 const char DECLARES_ENTITIES[] = "The document declares entities, which are not supported.";

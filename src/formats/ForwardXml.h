@@ -11,9 +11,9 @@ namespace Formats
 {
 
 /*
- * Functions that scan an XML document forward. The plug-in's files are read from start to end by
- * element name, regardless of how the elements are nested. The order of the elements is therefore
- * significant.
+ * Functions that scan an XML document forward. The plug-in searches its files for element names
+ * from start to end, regardless of how the elements are nested. The order of the elements is
+ * therefore significant.
  *
  * A document is read up to its first error. If the error is in text or in the attributes of a start
  * tag, this text or these attributes are treated as empty. The rest of the document is ignored.
@@ -26,18 +26,18 @@ namespace ForwardXml
 /// error, because Qt 4 expands entities without a limit. A document of 600 bytes could therefore
 /// exhaust the memory. Documents in an encoding that could hide a declaration are rejected, too.
 void start(QXmlStreamReader &reader, QIODevice &device);
-/// Makes `reader` parse `document` in the same way.
+/// This is an overloaded function. It makes `reader` parse `document` with the same restrictions.
 void start(QXmlStreamReader &reader, const QByteArray &document);
 
-/// Reads and returns the next token. An entity that the document does not declare is an error.
+/// Reads and returns the next token. Raises an error at a reference to an undeclared entity.
 QXmlStreamReader::TokenType next(QXmlStreamReader &reader);
 
 /// Moves to the next start element with this name, or to the end of the document. Returns true if
 /// the element was found.
 bool skipTo(QXmlStreamReader &reader, const QString &name);
 
-/// Like skipTo(), but returns false at the end element named `fence`. Has the same effect as
-/// skipTo() if `fence` equals `name`.
+/// Like skipTo(), but stops at the end element named `fence` and returns false. Has the same effect
+/// as skipTo() if `fence` equals `name`.
 bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &fence);
 
 /// Returns the complete text of the current element, including nested elements. Returns an empty

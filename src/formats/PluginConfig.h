@@ -121,14 +121,15 @@ void readConfiguration(QXmlStreamReader &reader, PluginConfig &config);
 /// Reads the settings for the prepaid/postpaid detection. An error in the section disables the
 /// detection.
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ);
-/// Reads the section "Prepaid" (`paidType` 0) or "Postpaid" (1). The section should contain four
-/// items. If it contains fewer, the next items of the document are read instead.
+/// Reads the "Prepaid" section (if `paidType` is 0) or the "Postpaid" section (if it is 1). The
+/// section should contain four items. If it contains fewer, the next items of the document are read
+/// instead.
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config);
-/// Reads the section XmlName::SENT_CHAR or XmlName::RECEIVED_CHAR.
+/// Reads the section with this name: XmlName::SENT_CHAR or XmlName::RECEIVED_CHAR.
 void readCharSection(QXmlStreamReader &reader, const char *section, Char &look);
 void readCmdEdit(QXmlStreamReader &reader, CmdEdit &edit);
 void readClearHistory(QXmlStreamReader &reader, ClearHistory &clear);
-/// Reads the section "autoUSSD". Every "item" up to the end of the document belongs to this
+/// Reads the "autoUSSD" section. Every "item" up to the end of the document belongs to this
 /// section. An error in the section disables the section and discards its items.
 void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD);
 

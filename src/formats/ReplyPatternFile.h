@@ -40,7 +40,7 @@ struct Line {
 
 QList<Line> read(const QByteArray &content);
 
-/// Returns true if the line with this name contains a regular expression.
+/// Returns true if lines with this name contain a regular expression.
 bool isPattern(const QString &name);
 /// Returns true if the name is one of the names defined above.
 bool isKnown(const QString &name);

@@ -29,8 +29,8 @@ QString quoted(const QString &text)
 }
 
 /**
- * Reads the section from start to end by element name. Unknown elements are ignored, but known
- * elements inside them are read.
+ * Searches the section for known element names from start to end. Unknown elements are ignored, but
+ * known elements inside them are read.
  */
 class Reader
 {
@@ -166,7 +166,7 @@ bool Reader::readDocument()
         readSection();
     if (!m_xml.hasError())
         checkGroups();
-    else // kept even if the number of complaints has reached the limit
+    else // stored even if the number of complaints has already reached the limit
         m_layout.complaints.prepend(onLine(m_xml.errorString()));
     return !m_xml.hasError();
 }
@@ -389,7 +389,7 @@ QRect placed(const QRect &asRead, int dialogWidth, bool mirrored)
     return QRect(QPoint(dialogWidth - asRead.x() - asRead.width(), asRead.y()), asRead.size());
 }
 
-/// Returns a coordinate small enough that Qt can add and subtract it without an integer overflow.
+/// Returns the coordinate, limited to a range in which Qt's calculations cannot overflow.
 int boundedPlace(int pixels)
 {
     return qBound(-LARGEST_SIDE, pixels, LARGEST_SIDE);
@@ -446,9 +446,9 @@ QRegExp inputPattern(const CWidgetItemInfo &control)
     return QRegExp(characters + QString::fromLatin1("{0,%1}").arg(length), Qt::CaseSensitive);
 }
 
-/// Any pattern could follow a bracket that closes the character class, including a pattern that
-/// takes QRegExp hours and gigabytes of memory to compile. A bracket in the first position is an
-/// ordinary character.
+/// Rejects a "]" that would close the character class. Any pattern could follow it, including a
+/// pattern that takes QRegExp hours and gigabytes of memory to compile. A "]" in the first position
+/// is an ordinary character.
 bool isCharacterClass(const QString &limitText)
 {
     if (limitText.length() > MAX_LIMIT_TEXT)

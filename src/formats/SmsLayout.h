@@ -50,7 +50,7 @@ struct CTreeItem {
  */
 enum SmsControlKind {
     CONTROL_KIND_NONE = 0, // "type" is missing
-    CONTROL_KIND_SMS = 1,  // "type" has any other value
+    CONTROL_KIND_SMS = 1,  // "type" has any value except "ussd"
     CONTROL_KIND_USSD = 2  // "type" is exactly "ussd"
 };
 
@@ -81,7 +81,7 @@ struct CWidget {
     QList<CWidgetItemInfo *> controls; // owned; in the order of the file
 };
 
-/** The contents of the section. SmsLayout owns the records. */
+/** The contents of the USSD-SMS section. SmsLayout owns the records in `entries` and `groups`. */
 struct SmsLayout {
     SmsLayout() = default;
     ~SmsLayout() { clear(); }

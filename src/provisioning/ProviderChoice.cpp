@@ -71,8 +71,8 @@ ProviderChoice choiceOf(const QList<Provider> &candidates)
     return choice;
 }
 
-/// If several operators have the name that the user has selected, keeps only those with the
-/// network. If no operator has this network, keeps all of them.
+/// If several operators have the name that the user has selected, keeps only those that use the
+/// network of the query. If none of them uses this network, keeps all of them.
 ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
 {
     if (candidates.count() > 1 && !query.network.isEmpty()) {

@@ -14,7 +14,7 @@ namespace Provisioning
  *   query.simName = the operator's name that the SIM or the device reports;
  *   choice = chooseProvider(database, query);
  *   Chosen:    continue with provisionPlan(choice.candidates.first(), query.network);
- *   Ambiguous: let the user choose one of choice.candidates or "none of them", once;
+ *   Ambiguous: ask the user once to choose one of choice.candidates or "none of them";
  *   None:      there is nothing to offer.
  */
 
@@ -30,7 +30,7 @@ struct ProviderChoice {
     enum State {
         None,     // no operator matches
         Chosen,   // exactly one operator matches
-        Ambiguous // the user must choose, possibly from only one operator
+        Ambiguous // the user must choose, even if there is only one candidate
     };
 
     State state = None;

@@ -63,9 +63,9 @@ private:
 
 // ---- tokens --------------------------------------------------------------------------------
 
-/// Reads the next token. The document is passed to the XML parser in pieces until the token is
-/// complete. Very large tokens are rejected before they are parsed, because the time for comparing
-/// the attributes of a tag is quadratic in their number.
+/// Reads and returns the next token. The document is passed to the XML parser in pieces until the
+/// token is complete. Very large tokens are rejected before they are parsed, because the time for
+/// comparing the attributes of a tag is quadratic in their number.
 QXmlStreamReader::TokenType Reader::readToken()
 {
     const int before = m_passed;

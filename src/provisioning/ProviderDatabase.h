@@ -34,7 +34,7 @@ struct ProviderCode {
 
     Way way = Ussd;
     QString code;            // trimmed
-    bool takesInput = false; // true if the element has the attribute "replacement"
+    bool takesInput = false; // true if the element has a "replacement" attribute
     QString replacement;     // the part of `code` to replace with the user's input
     QString smsText;         // the text of the short message
     qint64 line = 0;

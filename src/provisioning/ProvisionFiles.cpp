@@ -331,8 +331,9 @@ void ConfigurationWriter::writeHiddenControl()
     end();
 }
 
-/// Writes the windows for each SIM. Only prepaid windows are written, because the database contains
-/// only prepaid codes. If there are no IMSI prefixes, the windows do not depend on the SIM.
+/// Writes the windows for each SIM. The postpaid window is never included, because the database
+/// contains only prepaid codes. If there are no IMSI prefixes, the windows do not depend on the
+/// SIM.
 void ConfigurationWriter::writeSims()
 {
     const bool account =

@@ -9,7 +9,7 @@ namespace Provisioning
 /** The contents of an operator's configuration file and profile file. */
 struct ProvisionFiles {
     QByteArray configuration;
-    QByteArray profiles; // byte for byte what the profile editor would save
+    QByteArray profiles; // identical to the file that the profile editor would save
     QString error;       // the reason for a failure; empty on success
 };
 

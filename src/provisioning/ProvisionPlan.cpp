@@ -17,7 +17,7 @@ namespace
 const int FIRST_PAYMENT_SLOT = 9;
 const int PAYMENT_BUTTONS = 2; // the last two buttons are payment buttons
 
-/** A kind of code, and the text keys of the names for such codes. */
+/** A kind of code, and the text keys of the names and descriptions for such codes. */
 struct Kind {
     const char *name;
     const char *textKey;
@@ -38,7 +38,8 @@ USSDProfile placeholder()
     return profile;
 }
 
-/// Returns at most `count` profiles, starting at index `first`, with or without buttons.
+/// Returns at most `count` profiles, starting at index `first`, or all of them if `count` is -1.
+/// `hasButton` specifies whether the returned profiles have buttons.
 QList<USSDProfile> taken(const QList<USSDProfile> &profiles, int first, int count, bool hasButton)
 {
     QList<USSDProfile> result = profiles.mid(first, count);
@@ -131,7 +132,9 @@ QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withI
     return ussd.takesInput == withInput ? ussd.code : QString();
 }
 
-/// Adds a code whose reply is a menu. Only the general window supports menus.
+/// Adds a code whose reply is a menu. The code is not suitable for the account window, because only
+/// the general window supports menus. Adds a note instead if the code can only be sent as an
+/// answer.
 void Planner::takeResponse(const ProviderCode &code, const Kind &kind)
 {
     if (isUssdCode(code.code) && code.code.length() <= LONGEST_COMMAND)

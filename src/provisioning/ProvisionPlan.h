@@ -26,7 +26,7 @@ struct ProvisionPlan {
     QList<Formats::USSDProfile> profiles; // in the order of the profile file
     QList<PlannedMessage> messages;
     QStringList imsiPrefixes; // sorted in ascending order
-    QStringList notes;        // codes that the plug-in does not support, in English
+    QStringList notes;        // notes in English about codes that the plug-in does not support
 
     /// Returns true if the plan contains neither profiles nor messages.
     bool isEmpty() const { return profiles.isEmpty() && messages.isEmpty(); }

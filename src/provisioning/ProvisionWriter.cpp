@@ -73,8 +73,8 @@ bool hasAll(const QString &filesFolder, const ProvisionRecord &record)
     return record.isValid();
 }
 
-/// Removes all files that have not been modified. Removes the folder as well if it is empty
-/// afterwards.
+/// Removes a set of files and its folder. Does nothing if a file has been modified or added
+/// manually.
 void removeUnchanged(const QString &filesFolder)
 {
     const ProvisionRecord record = recordOf(filesFolder);
@@ -89,8 +89,8 @@ void removeUnchanged(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/// Removes the unfinished files of a process that was killed. Such files are in a folder with a
-/// different name and have never been active.
+/// Removes a set of files that a killed process or a failed operation has left unfinished. The name
+/// of its folder ends with UNFINISHED, and the set has never been active.
 void removeUnfinished(const QString &filesFolder)
 {
     const QStringList names = QDir(filesFolder).entryList(ALL);
@@ -256,7 +256,7 @@ bool Writer::linkPlugin(const QString &filesFolder)
                            m_outcome.problem);
 }
 
-/// Activates the new set of files for the plug-in.
+/// Activates the new set of files for the plug-in. Returns true on success.
 bool Writer::putInUse(int number)
 {
     const QString path = m_order.folder + IN_USE;

@@ -44,7 +44,7 @@ struct Provision {
     bool isUsable() const;
 };
 
-/// Examines the folder without changing it. May be called from any thread.
+/// Returns the contents of the folder, which is not changed. May be called from any thread.
 Provision readProvision(const QString &folder);
 
 struct ProvisionOrder {
@@ -58,8 +58,8 @@ struct ProvisionOrder {
 struct ProvisionOutcome {
     enum State {
         Written,
-        Current, // the files already exist; manual changes are kept
-        Refused, // files that were modified manually or not provisioned would be replaced
+        Current, // the folder already contains these files; manual changes are kept
+        Refused, // would have replaced files that were modified manually or not provisioned
         Failed
     };
 
@@ -74,9 +74,9 @@ struct ProvisionOutcome {
 ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan &plan,
                                 const ProvisionFiles &files);
 
-/// Returns the user's data folder, which is "ussd-dashboard" in $XDG_DATA_HOME or in its default. A
-/// relative path in the variable is invalid and therefore ignored, unlike in QStandardPaths of Qt
-/// 5.
+/// Returns the user's data folder, which is "ussd-dashboard" in $XDG_DATA_HOME or, if the variable
+/// is not set, in ~/.local/share. A relative path in the variable is invalid and therefore ignored,
+/// unlike in QStandardPaths of Qt 5.
 QString userDataHome();
 /// Returns the folder that contains the user's operator folders.
 QString operatorsFolder();

@@ -37,9 +37,9 @@ Event statusEvent(bool canSend)
 
 } // namespace
 
-/// Creates the object on the first call and registers an exit handler that stops it. Exit handlers
-/// and destructors of static objects run in reverse order of registration. The call-backs therefore
-/// end before static objects that the client created earlier are destroyed.
+/// Returns the object. The first call creates it and registers an exit handler that stops it. Exit
+/// handlers and destructors of static objects run in reverse order of registration. The call-backs
+/// therefore end before static objects that the client created earlier are destroyed.
 DeviceSdk &DeviceSdk::instance()
 {
     static DeviceSdk *const sdk = [] {
@@ -97,8 +97,8 @@ void DeviceSdk::addUssdCallback(TKSV_EventCallback callback)
     m_choice.backend();
 }
 
-/// Removes the call-back. Also ends the session if this was the last call-back, because nothing
-/// would receive the network's replies.
+/// Removes the call-back. Returns false if the call-back was not registered. Ends the session if
+/// this was the last call-back, because nothing would receive the network's replies.
 bool DeviceSdk::removeUssdCallback(TKSV_EventCallback callback)
 {
     const bool found = m_ussdEvents.remove(keyOf(callback));

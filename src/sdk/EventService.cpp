@@ -138,8 +138,8 @@ bool EventService::contains(std::uintptr_t key) const
     return std::any_of(m_listeners.begin(), m_listeners.end(), hasKey);
 }
 
-/// Waits until the running call to the listener has returned. Later calls to a listener with the
-/// same key are not waited for. After stop(), does not wait at all, so that a blocked call-back
+/// Waits until the running call to the listener has returned, but does not wait for later calls to
+/// a listener with the same key. After stop(), does not wait at all, so that a blocked call-back
 /// cannot prevent the client from exiting.
 void EventService::waitUntilIdle(std::unique_lock<std::mutex> &lock, std::uintptr_t key)
 {

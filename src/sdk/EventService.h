@@ -18,7 +18,7 @@ namespace Tksv
 struct Event {
     int number = 0;
     std::shared_ptr<void> data; // the record; destroyed after the last call
-    std::uintptr_t onlyKey = 0; // the listener that receives the event; 0: all listeners
+    std::uintptr_t onlyKey = 0; // key of the only listener to be called; 0 for all listeners
     /// Called from the service's thread immediately before delivery. Returns false to drop the
     /// event. May be empty.
     std::function<bool()> beforeDelivery;
@@ -49,9 +49,9 @@ public:
     /// Adds a listener for the events that are posted from now on. Does nothing if the key is
     /// already in use.
     void add(std::uintptr_t key, Handler handler);
-    /// Removes a listener. Waits until the listener has returned if it is running, unless the
-    /// listener itself makes the call. The listener is not called again. Returns true if the key
-    /// was in use.
+    /// Removes a listener, which is then not called again. If the listener is running, waits until
+    /// it has returned, unless the listener itself has called this function. Returns true if the
+    /// key was in use.
     bool remove(std::uintptr_t key);
     /// Removes all listeners in the same way as remove(), and then adds `handler` as a listener
     /// unless it is empty.

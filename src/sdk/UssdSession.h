@@ -25,7 +25,7 @@ struct UntakenText {
 struct SessionInfo {
     TKSV_SessionState state = TKSV_SESSION_IDLE;
     unsigned long requestCount = 0;
-    std::string request; // UTF-8
+    std::string request; // the newest accepted request, in UTF-8
 };
 
 /**

@@ -153,7 +153,7 @@ TKSV_API long TKSV_Device_SendPin(const char *pin);
  */
 TKSV_API long TKSV_Device_Enable(void);
 
-/** The generations of networks that a modem may use. */
+/** The network generations that a modem may use. */
 typedef enum TKSV_Mode {
     TKSV_MODE_2G = 1,
     TKSV_MODE_3G = 2,
@@ -161,30 +161,30 @@ typedef enum TKSV_Mode {
     TKSV_MODE_5G = 8
 } TKSV_Mode;
 
-/** A setting of the modem: each field is a combination of TKSV_Mode values. */
+/** The network generations of a modem. Each field is a combination of TKSV_Mode values. */
 typedef struct TKSV_Modes {
     unsigned int allowed;   /* the generations that the modem may use; 0 if unknown */
     unsigned int preferred; /* the generations that the modem prefers; 0 if none */
 } TKSV_Modes;
 
-/** The setting of the modem in use. */
+/** The network generations of the modem in use. */
 typedef struct TKSV_ModesInfo {
-    TKSV_Modes current;   /* the present setting */
+    TKSV_Modes current;   /* the current setting */
     TKSV_Modes withOlder; /* the setting that also allows 2G or 3G; `allowed` is 0 if the modem
                              supports no such setting, or if 2G or 3G is already allowed */
     int hasFailed;        /* 1 if the most recent change has failed, otherwise 0 */
 } TKSV_ModesInfo;
 
 /**
- * Copies the setting of the modem in use to `*info`. The call-back of TKSV_Device_SetInfoCallback
- * reports changes. Fails if `info` is null.
+ * Copies the network generations of the modem in use to `*info`. Changes are reported to the
+ * call-back of TKSV_Device_SetInfoCallback. Fails if `info` is null.
  */
 TKSV_API long TKSV_Device_GetModes(TKSV_ModesInfo *info);
 
 /**
- * Changes the setting of the modem in use. The SDK never changes it on its own. Fails if `modes` is
- * null, if `allowed` is 0, or if there is no modem. Otherwise, the call-back of
- * TKSV_Device_SetInfoCallback reports the outcome.
+ * Changes the network generations of the modem in use. The SDK never changes them on its own. Fails
+ * if `modes` is null, if `allowed` is 0, or if there is no modem. Otherwise, the result is reported
+ * to the call-back of TKSV_Device_SetInfoCallback.
  */
 TKSV_API long TKSV_Device_SetModes(const TKSV_Modes *modes);
 

@@ -26,7 +26,7 @@ struct CheckTable {
 struct CheckReport {
     QString file;
     QString kind; // "configuration", "layout", "profiles", "texts", "scenario" or "patterns"; empty
-                  // if unusable
+                  // if the file cannot be used
     QString error;                // the reason why the file could not be read; empty on success
     QList<CheckFinding> findings; // sorted by line
     QList<CheckTable> tables;

@@ -6,9 +6,8 @@
 namespace Tools
 {
 
-/// Runs the program ussd-config, which checks and formats files, creates
-/// folders for operators and prints schemas. Returns a
-/// ToolExit.
+/// Runs ussd-config, which checks and formats files, creates folders for operators and prints
+/// schemas. Returns a ToolExit.
 int runConfigTool(const QStringList &words);
 
 } // namespace Tools

@@ -7,7 +7,7 @@
 namespace Tools
 {
 
-/// Checks the configuration except for the section SMSUSSD. The check follows the plug-in's forward
+/// Checks the configuration except for the SMSUSSD section. The check follows the plug-in's forward
 /// scan and adds findings to the report.
 void checkConfiguration(const XmlElements &elements, CheckReport &report);
 

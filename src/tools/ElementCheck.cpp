@@ -14,7 +14,7 @@ namespace Tools
 namespace
 {
 
-const int LONGEST_ANSWER = 2; // digits; also the length of a short code
+const int LONGEST_ANSWER = 2; // in digits; also the maximum length of a short code
 
 /// Returns true if a network accepts the string as a code or as a short code (3GPP TS 22.030).
 bool isAccepted(const QString &code)

@@ -18,9 +18,9 @@ enum Combination { InOrder, AnyOrder, OneOf };
 /**
  * A rule describes an element, or only a combination of other rules if `element` is null. `parts`
  * contains the names of rules, separated by blanks. A part that ends with "?" is optional, one that
- * ends with "*" is repeated any number of times, and one that ends with a digit is repeated so many
- * times. `attributes` contains the names of the attributes and their types. An attribute that ends
- * with "?" is optional.
+ * ends with "*" is repeated any number of times, and one that ends with a digit is repeated that
+ * number of times. `attributes` contains the names of the attributes and their types. An attribute
+ * that ends with "?" is optional.
  */
 struct Rule {
     const char *name;
@@ -101,7 +101,7 @@ const Rule RULES[] = {
     {"desLangID", XmlName::DESCRIPTION_LANG_ID, "", "text", InOrder, ""},
 };
 
-/** A type of values: the type of XML Schema, and the name and value of each of its limits. */
+/** A value type: its base type in XML Schema, and the name and value of each restriction. */
 struct Type {
     const char *name;
     const char *base;
@@ -335,7 +335,7 @@ KnownNames knownNames(const QString &kind)
         if (element && *element && !known.elements.contains(QLatin1String(element)))
             known.elements << QLatin1String(element);
         if (!element || !*element)
-            continue; // attributes of the root are not read
+            continue; // the plug-in does not read the attributes of the root
         const QStringList attributes = wordsOf(rules.at(i)->attributes);
         for (int a = 0; a < attributes.count(); ++a) {
             const QString name = partOf(attributes.at(a).left(separatorIn(attributes.at(a)))).name;

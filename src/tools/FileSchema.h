@@ -19,9 +19,9 @@ QStringList schemaKinds();
 /// Returns the names that may appear in a file of this kind, except the name of the root.
 KnownNames knownNames(const QString &kind);
 
-/// Returns the schema for this kind of file in RELAX NG. The schema rejects what the check reports,
-/// unless the mistake depends on the values of several elements. Returns an empty array for an
-/// unknown kind.
+/// Returns the RELAX NG schema for this kind of file. The schema rejects every mistake that
+/// "ussd-config check" reports, except mistakes that depend on the values of several elements.
+/// Returns an empty array for an unknown kind.
 QByteArray relaxNgSchema(const QString &kind);
 
 } // namespace Tools

@@ -19,7 +19,8 @@ ToolExit fail(const QString &path, const QString &problem)
     return TOOL_USAGE;
 }
 
-/// Replaces the file in one step, so that it is never incomplete.
+/// Replaces the file atomically, so that it is never incomplete. On failure, returns false and sets
+/// `problem`.
 bool replace(const QString &path, const QByteArray &content, QString &problem)
 {
     QSaveFile file(path);

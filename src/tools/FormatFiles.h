@@ -6,7 +6,7 @@
 namespace Tools
 {
 
-/// Formats XML files, as "ussd-config fmt". Returns a ToolExit.
+/// Implements "ussd-config fmt", which formats XML files. Returns a ToolExit.
 int formatFiles(const ToolArguments &arguments);
 
 } // namespace Tools

@@ -240,7 +240,7 @@ void checkPlace(ElementCheck &check, int place, const QSize &window)
 void checkGeometry(ElementCheck &check, int section)
 {
     const QSize window = windowSizeOf(check, section);
-    if (window.isEmpty()) // MainSize has its own finding
+    if (window.isEmpty()) // an invalid MainSize has its own finding
         return;
     const QList<int> places = check.elements().childrenOf(section, XmlName::TREE_SIZE) +
                               allNamed(check.elements(), section, XmlName::CONTROL);

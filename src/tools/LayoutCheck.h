@@ -7,8 +7,8 @@
 namespace Tools
 {
 
-/// Checks the section SMSUSSD: the complaints of the plug-in's own parser, the keys, the commands
-/// and the geometry. Adds findings to the report.
+/// Checks the keys, the commands and the geometry in the SMSUSSD section. Adds findings to the
+/// report, including the complaints of the plug-in's own parser.
 void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
 
 /// Returns the services that the plug-in's own parser finds in the section, as a table.

@@ -95,7 +95,7 @@ bool writeFiles(const QString &folder, const Contents &contents, QString &proble
 }
 
 /// Writes the files to a temporary folder and then renames it. The folder therefore never exists
-/// with only some of its files.
+/// with only some of its files. On failure, returns false and sets `problem`.
 bool writeFolder(const QString &folder, const Contents &contents, QString &problem)
 {
     const QString fresh =

@@ -196,8 +196,8 @@ QString effectOf(const USSDProfile &profile, bool pays)
     return QLatin1String(pays ? "sends after a number was entered" : "sends at once");
 }
 
-/// Returns a table of the buttons. It also shows the last two buttons after the user has added a
-/// code.
+/// Returns a table of the buttons. The table also shows which buttons would be the last two after
+/// the user has added a code.
 CheckTable buttonTable(const QList<USSDProfile> &profiles)
 {
     CheckTable table;

@@ -76,7 +76,7 @@ void checkLine(const ReplyPatternFile::Line &line, QSet<QString> *seen, CheckRep
         checkPattern(line, report);
 }
 
-/// Checks for lines that have no effect because another line is missing.
+/// Adds a finding for each line that requires another line which is missing.
 void checkCompanions(const QSet<QString> &seen, CheckReport &report)
 {
     const auto needs = [&](QLatin1String name, QLatin1String other) {

@@ -9,9 +9,9 @@ namespace
 {
 
 const int IMSI_DIGITS = 15;
-const char TEST_NETWORK[] = "00101"; // 3GPP TS 34.108
+const char TEST_NETWORK[] = "00101"; // the network code for tests; see 3GPP TS 34.108
 
-/// Escapes the text for use as a value in a key file. An unescaped leading blank would be lost.
+/// Returns the trimmed text, escaped for use as a value in a key file.
 QString valueOf(QString text)
 {
     text.replace(QLatin1Char('\\'), QLatin1String("\\\\"));

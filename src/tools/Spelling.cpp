@@ -16,7 +16,7 @@ namespace
 const int MOST_ATTRIBUTES = 50; // per element; comparing more would take too long
 const int MOST_DIFFERENCES = 2; // names with more differences are not considered misspellings
 
-/// Returns the Levenshtein distance: the number of letters to insert, delete or replace.
+/// Returns the Levenshtein distance: the minimum number of letters to insert, delete or replace.
 int differences(const QString &a, const QString &b)
 {
     QList<int> row;

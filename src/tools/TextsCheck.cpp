@@ -21,7 +21,8 @@ namespace Tools
 namespace
 {
 
-/// Returns the text keys that occur in an XML file of the operator.
+/// Returns all texts and attribute values in an XML file of the operator. They include the text
+/// keys that the file uses.
 QSet<QString> keysIn(const XmlElements &elements)
 {
     QSet<QString> keys;

@@ -18,7 +18,8 @@ struct ToolArguments {
     QString value(const char *option) const { return options.value(QLatin1String(option)); }
 };
 
-/// Parses the command-line arguments, which do not include the program name. The value of an option
+/// Parses the command-line arguments, which do not include the program name. `switches` lists the
+/// options without a value, and `valueOptions` the options with a value. The value of an option
 /// follows "=" or is the next argument. Arguments after "--" are not treated as options. Each
 /// option may occur only once.
 ToolArguments parseToolArguments(const QStringList &words, const QStringList &switches,
@@ -31,7 +32,7 @@ QString shellWord(const QString &text);
 /// name.
 QStringList startTool(int argc, char **argv);
 
-/** The exit codes of the programs. */
+/** The exit codes of ussd-config and ussd-provision. */
 enum ToolExit {
     TOOL_GOOD = 0,
     TOOL_BAD = 1,    // an operation failed, or a check has findings

@@ -31,7 +31,7 @@ QString escaped(const QString &text)
         case '>':
             result += QLatin1String("&gt;");
             break;
-        case '\r': // the reader of the result would take it for the end of a line
+        case '\r': // an XML parser would convert a plain carriage return to a line feed
             result += QLatin1String("&#13;");
             break;
         default:
@@ -55,13 +55,13 @@ bool isBlank(const QString &text)
     return text.trimmed().isEmpty();
 }
 
-/** A start tag, an end tag, a text or another markup, as it is written. */
+/** A token in the form in which it is written: a start tag, an end tag, text or other markup. */
 struct Token {
     enum Kind { Start, End, Text, Other };
     Kind kind;
     QString text; // without the brackets of the tag; empty for an end tag
-    QString name; // of a tag
-    int partner;  // index of the end tag of a start tag
+    QString name; // name of the element; empty if the token is not a tag
+    int partner;  // index of the end tag; -1 if the token is not a start tag
 };
 
 /** Reads the tokens of a document. */
@@ -143,7 +143,7 @@ QString TokenReader::startTag()
 void TokenReader::add(Token::Kind kind, const QString &text, const QString &name)
 {
     if (kind == Token::Text && !m_tokens.isEmpty() && m_tokens.last().kind == Token::Text) {
-        m_tokens.last().text += text; // CDATA
+        m_tokens.last().text += text; // a CDATA section next to other text
         return;
     }
     Token token;
@@ -188,7 +188,8 @@ QString TokenWriter::write()
     return m_output + QLatin1Char('\n');
 }
 
-/// Returns true if white space in the element has a meaning: it contains text, or nothing else.
+/// Returns true if the element must be written on a single line, because white space in it is
+/// significant: the element contains text, or nothing except white space.
 bool TokenWriter::isInline(int start) const
 {
     const int end = m_tokens.at(start).partner;
@@ -225,8 +226,8 @@ void TokenWriter::writeInline(int first, int last)
     }
 }
 
-/// Starts a line, after a blank line if there was at least one in the document. A comment stays in
-/// the line of the previous token.
+/// Starts a new line. If the document has blank lines in this place, a single one is kept. If a
+/// comment does not start a line in the document, it remains on the line of the previous token.
 void TokenWriter::beginLine(int index, int depth)
 {
     const bool hasText = index > 0 && m_tokens.at(index - 1).kind == Token::Text;
@@ -272,8 +273,8 @@ QString withoutBlanks(const QString &text)
     return QString(text).remove(QRegularExpression(QLatin1String("\\s")));
 }
 
-/// Returns true if both documents have the same elements, attributes and texts. White space between
-/// elements has no meaning.
+/// Returns true if both documents have the same elements, attributes and text. White space between
+/// elements is ignored.
 bool isSameMeaning(const XmlElements &a, const XmlElements &b)
 {
     bool same = a.list.count() == b.list.count() && b.error.isEmpty();

@@ -7,7 +7,7 @@
 namespace Tools
 {
 
-/// Returns the document with a uniform layout: one element in a line, indented by its depth. The
+/// Returns the document with a uniform layout: one element per line, indented by its depth. The
 /// values, the comments, and single blank lines are kept. Formatting the result again does not
 /// change it. If the document cannot be formatted without changing its meaning, returns an empty
 /// array and sets `problem`.

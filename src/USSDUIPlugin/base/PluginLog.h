@@ -29,7 +29,7 @@ const char *timeOfDay();
 void line(QtMsgType type, const char *source, const char *function, const char *tail, ...)
     USSD_PRINTF(4, 5);
 
-/// Writes the same line at debug level and at warning level.
+/// Writes the same line as line() twice: at debug level and at warning level.
 void important(const char *source, const char *function, const char *tail, ...) USSD_PRINTF(3, 4);
 
 /// Writes a line that consists of "source: function" and the formatted tail.

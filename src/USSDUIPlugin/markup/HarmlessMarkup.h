@@ -25,7 +25,7 @@ QString withStrayBracketsEscaped(const QString &text);
 bool mayKeepMarkup(const MarkupCost &cost, const MarkupCost &before, bool isInPieces);
 
 /// Returns an empty resource, which is used in place of every resource that the markup refers to.
-/// The result must not be null, because Qt would then try to open a file of that name.
+/// The result must not be null, because Qt would then try to open the resource as a file.
 QVariant emptyResource(int type);
 
 } // namespace HarmlessMarkup

@@ -6,10 +6,10 @@ namespace
 const int NEVER_HEAVY = 1000; // characters; network replies have at most 182
 const int ALWAYS_HEAVY = 10000;
 const int MAX_CHANGES = 500;
-const int PIECE = 990;    // below NEVER_HEAVY, which leaves room for a surrogate pair
+const int PIECE = 990;    // less than NEVER_HEAVY, because a surrogate pair may exceed it
 const int LOOK_BACK = 50; // maximum distance of a blank from the end of a piece, in characters
 
-/// Returns true if `after` belongs to another script than `before` or combines with it.
+/// Returns true if `after` belongs to a different script from `before` or combines with it.
 bool isChange(QChar before, QChar after)
 {
     const int charactersOfAScript = 128; // an approximation; Qt's script tables are private

@@ -16,8 +16,8 @@
 namespace SlowText
 {
 
-/// Returns true if laying out `text` as a single paragraph would noticeably block the window. This
-/// never applies to a text that a network can send.
+/// Returns true if laying out `text` as a single paragraph would noticeably block the window. The
+/// result is always false for replies that a network can send.
 bool isHeavy(const QString &text);
 
 /// Splits `text` into pieces that are not heavy, at blanks if possible.

@@ -188,8 +188,8 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
         USSD_LOG_IMPORTANT(" Exit: Directory is not created");
         return SAVE_NO_DIRECTORY;
     }
-    // This call has no effect, because the file does not exist. A file that could not be deleted
-    // must keep its permissions, so that its owner can still read it.
+    // This call has no effect, because it is made only if the file does not exist. A file that
+    // could not be deleted must keep its permissions, so that its owner can still read it.
     if (!file.exists())
         file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
@@ -203,7 +203,7 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
 }
 
 /// Creates the folder of the user file, but not its parent folders. Does not create the folder of
-/// the system file.
+/// the system file. Returns false if the folder cannot be created.
 bool USSDEditCmd::makeParentDirectory(const QString &path, bool isSystem)
 {
     const QString directory = parentDirectory(path);

@@ -30,7 +30,7 @@ QWidget *ProfileTableItemDelegate::createEditor(QWidget *parent, const QStyleOpt
     ExtendLineEdit *edit = new ExtendLineEdit(parent);
     // Text from a file may be longer than the limit and must not be truncated.
     edit->setMaxLength(qMax(MAX_CELL_TEXT, int(textOf(index).length())));
-    edit->setFrame(false); // the rows are too low for a frame
+    edit->setFrame(false); // the rows are not high enough for a frame
     if (index.column() == ProfileRows::CodeColumn)
         edit->setLayoutDirection(Qt::LeftToRight);
     return edit;

@@ -101,7 +101,7 @@ void USSDEditCmd::initWidgets()
     m_pInfoLabel->setWordWrap(true);
     m_pInfoLabel->setBuddy(m_pTable);
     m_pTable->setTabKeyNavigation(true);
-    // The Return key must only end the editing of a cell and not press this button.
+    // The Return key must only end the editing of a cell and not press one of these buttons.
     m_pSaveButton->setAutoDefault(false);
     m_pCancelButton->setAutoDefault(false);
 }
@@ -287,9 +287,9 @@ QString USSDEditCmd::savedText(int row, int column) const
     return column == ProfileRows::CodeColumn ? text.trimmed() : text;
 }
 
-/// Shows the message about a duplicate from the event loop. When the editor is closed, the delegate
-/// and the table are still processing the cell. A message box at that point would run a nested
-/// event loop, in which the host could delete them.
+/// Shows the message about a duplicate from the event loop. When the cell's editor is closed, the
+/// delegate and the table are still processing the cell. A message box at that point would run a
+/// nested event loop, in which the host could delete them.
 void USSDEditCmd::refuseLater(QTableWidgetItem *item)
 {
     if (m_refusedItems.contains(item))
@@ -375,8 +375,8 @@ void USSDEditCmd::OnClickedSaveButton()
     saveAsPlanned(plan);
 }
 
-/// Determines whether the profiles can be saved. This must be known in advance, because saving
-/// deletes the old files first.
+/// Determines which files can be saved. This must be known in advance, because saving deletes the
+/// old files first.
 USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
 {
     SavePlan plan;
@@ -385,8 +385,10 @@ USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
     return plan;
 }
 
-/// Returns true if the file must be written. A file that is not writable is skipped if its profiles
-/// have not changed. This is a common case, because the system file often belongs to root.
+/// Returns true if the file can be saved. Otherwise, adds an error message to `plan` if the file is
+/// damaged or if changes would be lost. A file that is not writable is skipped without a message if
+/// its profiles have not changed. This is a common case, because the system file often belongs to
+/// root.
 bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
 {
     const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);

@@ -53,7 +53,7 @@ public:
     /// Sets `list` to all profiles in order.
     void GetProfileList(QList<Formats::USSDProfile> &list);
     /// Writes the system profiles or the user profiles to their file. The old file is intentionally
-    /// deleted first, so it no longer exists if writing fails.
+    /// deleted first, so it no longer exists if writing fails. Returns a SaveStatus.
     int saveToXMLFile(bool isSystem);
 
     /// Builds the window in a frame whose parent is `parent`.

@@ -46,7 +46,7 @@ private:
     QList<Qt::HANDLE> m_inside; // the thread of each call-back that has entered the gate
 };
 
-/** Holds the gate open for a single call-back, if the gate admits it. */
+/** Enters the gate for the duration of a call-back, unless the gate rejects the call-back. */
 class CallbackPass
 {
 public:

@@ -112,7 +112,8 @@ void ReplyTimer::catchUp()
         stop();
 }
 
-/// Records the time at which the QTimer fires again. It repeats until the time-out is disarmed.
+/// Records the time at which the QTimer fires again. The QTimer repeats until the time-out is
+/// disarmed.
 void ReplyTimer::repeats()
 {
     QtCompat::MutexLocker locker(&m_state);

@@ -9,11 +9,11 @@
 namespace SdkRecords
 {
 
-/// Returns the size of `command` in UTF-16, in bytes.
+/// Returns the number of bytes that `command` occupies in UTF-16.
 int commandBytes(const QString &command);
 
-/// Fills in the record. If the command is longer than TKSV_USSD_MAX_COMMAND_BYTES, returns false
-/// and zeroes the record.
+/// Fills in `request`. If the command is longer than TKSV_USSD_MAX_COMMAND_BYTES, zeroes `request`
+/// and returns false.
 bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
 
 /// The maximum length of a string in UTF-16 code units. Protects against a missing terminator.

@@ -20,7 +20,7 @@ namespace
 
 const int SENT = 0;
 const int FAILED = 1;
-const int NOT_THE_HEAD = 2; // used only in this file
+const int NOT_THE_HEAD = 2; // internal result: the command is no longer the head of the queue
 
 const int PREVIOUS_TIMEOUT = 3000; // ms to wait until the previous time-out is disarmed
 
@@ -229,9 +229,9 @@ int USSDLogic::sendUSSDCommand(QString command, int *status)
     return sendUSSDCommand(command, head.number, status) == FAILED ? FAILED : SENT;
 }
 
-/// Sends the head to the device. If this fails, no signal is emitted, because the caller receives
-/// the result. The commands behind the failed command intentionally remain in the queue until a
-/// late reply arrives or the queue is cleared.
+/// Sends the head to the device. Returns SENT, FAILED or NOT_THE_HEAD. If sending fails, no signal
+/// is emitted, because the caller receives the result. The commands behind the failed command
+/// intentionally remain in the queue until a late reply arrives or the queue is cleared.
 int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *status)
 {
     USSD_LOG_SCOPE();

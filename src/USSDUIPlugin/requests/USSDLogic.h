@@ -17,7 +17,7 @@ class QFile;
 class QXmlStreamReader;
 class ReplyTimer;
 
-/** The text appearance that GetCharSet() returns. */
+/** Specifies for which lines of the transcript GetCharSet() returns the text appearance. */
 enum _CHAR_SET_COLOR { CHAR_SET_SEND = 0, CHAR_SET_RECEIVE = 1 };
 
 /** The attributes of a component in the configuration. The values 3 and 4 are not used. */
@@ -112,7 +112,7 @@ public:
     int SendUSSDCommand(USSDCmdOrResp cmd, int *status);
     /// Sends the head of the queue to the device. `command` is the string of the head. If the
     /// command is rejected or too long, it is removed from the queue; no signal is emitted, and the
-    /// next command is not sent.
+    /// next command is not sent. Returns 0 on success, otherwise 1.
     int sendUSSDCommand(QString command, int *status);
     void copyCmdToList(USSDCmdOrResp cmd);
     void checkPendingCmds();

@@ -39,7 +39,7 @@ bool holdsRightToLeftLetter(const QString &text)
     return false;
 }
 
-/// Removes the directional formatting characters U+202A to U+202E.
+/// Returns the text without the directional formatting characters U+202A to U+202E.
 QString withoutDirectionMarks(const QString &text)
 {
     QString kept;
@@ -106,8 +106,8 @@ QSize AccountReplyView::minimumSizeHint() const
     return sizeHint();
 }
 
-/// Copies the selection without the directional formatting characters that showText() inserts. They
-/// would make a copied code unusable.
+/// Returns the selection without the directional formatting characters that showText() inserts.
+/// These characters would make a copied code unusable.
 QMimeData *AccountReplyView::createMimeDataFromSelection() const
 {
     QMimeData *data = new QMimeData;

@@ -3,8 +3,8 @@
 
 #include <QtGlobal>
 
-/// Returns the width of a button for a text of this width: the width plus a margin, bounded by the
-/// limits.
+/// Returns the width of a button whose text is `textWidth` pixels wide: this width plus a margin,
+/// limited to the range from `minimum` to `maximum`.
 inline int paddedWidth(int textWidth, int minimum, int maximum)
 {
     return qBound(minimum, textWidth + 30, maximum);

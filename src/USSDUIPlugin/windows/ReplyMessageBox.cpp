@@ -11,7 +11,7 @@
 namespace
 {
 
-// Longer text is shown in a scrollable view instead of a label.
+// Text that exceeds one of these limits is shown in a scrollable view instead of a label.
 const int LABEL_CHARACTERS = 600;
 const int LABEL_LINES = 12;
 const int LABEL_WORD = 50;

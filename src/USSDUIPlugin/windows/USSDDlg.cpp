@@ -496,8 +496,8 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
         OnResponseReceived(component, text(failureKey(status, "USSD_CODE_FAILED")));
 }
 
-/// Sends the command. An empty command, which means that the configuration could not be read, is
-/// treated like a command that the device rejects.
+/// Sends the command and returns a SendResult. An empty command, which means that the configuration
+/// could not be read, is treated like a command that the device rejects.
 int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *status)
 {
     if (command.isEmpty())

@@ -44,9 +44,9 @@ public:
     /// Returns the size that the window requires in the current language, or (-1, -1) before it has
     /// been built.
     QSize GetSize();
-    /// Cancels pending requests and resets and shows the window. If the components are visible,
-    /// requests the balance and the subscriber's own number. Does nothing if `type` is neither
-    /// prepaid nor postpaid.
+    /// Cancels pending requests, resets the window and shows it. Requests the balance and the
+    /// subscriber's own number if the window shows these components. Does nothing if `type` is
+    /// neither prepaid nor postpaid.
     void MyDoModal(PAID_TYPE type);
     /// Starts the prepaid/postpaid detection if `ask` is true. The result is sent to the host's
     /// notification service later. On return, the arguments contain the current values of the

@@ -114,8 +114,8 @@ void USSDDlg::setRowHeights(const QList<_COMPONENT> &components)
         m_pGrid->setRowMinimumHeight(row, ROW_HEIGHT);
 }
 
-/// Counts the rows of the component, including the separator above it if there is another component
-/// above.
+/// Adds the number of rows of the component to `rows`. If `rows` is not 0, also adds a row for the
+/// separator above the component.
 void USSDDlg::findRowCount(int component, int &rows)
 {
     if (rows > 0)
@@ -229,7 +229,8 @@ void USSDDlg::place(QWidget *widget, int row, int column, int columns)
 }
 
 /// Places the widget below a gap in a layout box that starts at the field column. The widget is
-/// aligned with the start of the window's text direction, even if its own layout direction differs.
+/// aligned to the leading edge of the window, even if its own layout direction differs from that of
+/// the window.
 void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int columns)
 {
     QHBoxLayout *box = new QHBoxLayout;
@@ -240,7 +241,7 @@ void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int column
     widget->show();
 }
 
-/// Hides all widgets. The layout later shows those that it places.
+/// Hides all widgets. The layout then shows the widgets that it places.
 void USSDDlg::hideComponents()
 {
     QWidget *const widgets[] = {m_pBalanceLabel,

@@ -3,7 +3,7 @@
 
 #include "ExtendDialog.h"
 
-/** The frame of a window of the plug-in. */
+/** The frame of a plug-in window. */
 class USSDExtendDialog : public ExtendDialog
 {
     Q_OBJECT

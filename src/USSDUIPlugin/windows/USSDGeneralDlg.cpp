@@ -413,7 +413,7 @@ bool USSDGeneralDlg::sendCommand(const QString &command)
 }
 
 /// Moves the focus to the transcript before the input fields are disabled. By default, Qt would
-/// move the focus to Clear, which would then receive the user's key presses.
+/// move the focus to the Clear button, which would then receive the user's key presses.
 void USSDGeneralDlg::parkFocus()
 {
     const QWidget *focus = QApplication::focusWidget();

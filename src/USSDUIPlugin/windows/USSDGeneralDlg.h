@@ -24,9 +24,9 @@ class TranscriptView;
  * shows all sent and received messages in a coloured transcript. All functions must be called from
  * the GUI thread.
  *
- * In the idle state, Send is enabled if the input field contains text. While the window is waiting
- * for a reply, all controls that send commands are disabled. The wait ends with the first reply for
- * the component of this window. Later replies are dropped.
+ * In the idle state, the Send button is enabled if the input field contains text. While the window
+ * is waiting for a reply, all controls that send commands are disabled. The wait ends with the
+ * first reply for the component of this window. Later replies are dropped.
  */
 class USSDGeneralDlg : public QWidget
 {

@@ -160,7 +160,7 @@ void CUSSDSMSDlg::logComplaints() const
         USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
 }
 
-/// Connects the window to the logic, but intentionally not if the file could not be read
+/// Connects the window to the logic. Intentionally called only if the file could be read
 /// completely. A window without a connection does not receive replies. It can send short messages
 /// but no commands.
 void CUSSDSMSDlg::connectLogic()
@@ -292,7 +292,7 @@ void CUSSDSMSDlg::OnClickedCloseButton()
     if (m_pLogic)
         m_pLogic->ClearUSSDSMSQueuedCmds();
     if (m_bBusy && m_command.kind == CONTROL_KIND_USSD)
-        endSending();          // the reply was removed together with the queue
+        endSending();          // the command has been removed from the queue
     emit clickedcloseButton(); // the receiver may delete the window
 }
 
@@ -328,7 +328,7 @@ void CUSSDSMSDlg::addRows()
         if (entry == rootEntry || !entry->isChild)
             continue;
         entry->treeWidgetItem = new QTreeWidgetItem(root);
-        if (root->childCount() == 1) // the first service; its number may even be NO_ENTRY
+        if (root->childCount() == 1) // select the first service, even if its number is NO_ENTRY
             m_nSelected = entry->number;
     }
 }

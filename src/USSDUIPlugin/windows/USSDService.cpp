@@ -187,7 +187,8 @@ bool CUSSDService::makeFrame(QPointer<USSDExtendDialog> &frame)
     return frame;
 }
 
-/// Creates the frame of the prepaid, the postpaid or the USSD-SMS window.
+/// Creates the frame of the prepaid, the postpaid or the USSD-SMS window. Returns 1 on success,
+/// otherwise 0.
 int CUSSDService::makeListedFrame(QPointer<USSDExtendDialog> &frame)
 {
     if (!makeFrame(frame))

@@ -38,8 +38,8 @@ public:
     bool IsImsiDynamicMatch() override;
     bool CheckImsiIsValid(const QString &imsi, int &flags) override;
 
-    /// Shows the general window embedded in `parent`. If `type` is another type, only stores it.
-    /// Always returns 0.
+    /// Shows the general window embedded in `parent`. If `type` is not PAID_TYPE_GENERAL, stores
+    /// the type but does not show a window. Always returns 0.
     int showWindow(QWidget *parent, QRect &rect, PAID_TYPE type);
     int DoModal();
     /// Shows a window in a separate frame that is modal to the host's main window. Returns

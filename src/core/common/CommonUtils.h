@@ -16,8 +16,8 @@ class QWidget;
 class Q_DECL_EXPORT CommonUtils
 {
 public:
-    /// Returns the host's main window, which is the parent of frames. Returns null if there is no
-    /// main window. The host owns the window.
+    /// Returns the host's main window, which is the parent of all frames. Returns null if there is
+    /// no main window. The host owns the window.
     static QWidget *GetMainWindow();
     /// Centres `widget`, a top-level window, over the main window. If the main window is null,
     /// hidden or minimized, centres `widget` on the screen. Keeps `widget` inside the available

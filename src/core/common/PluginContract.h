@@ -30,7 +30,7 @@ const unsigned int MESSAGE_PRE_POST_INFO = 384;
  */
 struct PrePostRecord {
     bool bInUse = false;    ///< true if the configuration enables the query
-    bool bPostPaid = false; ///< meaningless if `result` is 0
+    bool bPostPaid = false; ///< true if the SIM is postpaid; meaningless if `result` is 0
     int result = 0; ///< 1 if the query was sent; 0 if it was not sent or not answered in time
 };
 

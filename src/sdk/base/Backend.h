@@ -36,13 +36,13 @@ struct RequestResult {
 struct Failure {
     TKSV_Failure reason = TKSV_FAILURE_NONE;
     bool wasNotSent = false;
-    std::string text = {}; // UTF-8
+    std::string text = {}; // the network's final message, in UTF-8; empty if unknown
 };
 
 /** A reply to a request, or a network-initiated message. */
 struct UssdReply {
     int type = UssdFinal; // a UssdType, or the failure reason if the request failed
-    std::string text;     // UTF-8; empty if the request failed
+    std::string text;     // the message, in UTF-8; empty if the request failed
     Failure failure = {}; // the reason is TKSV_FAILURE_NONE if the request succeeded
 };
 
@@ -161,8 +161,8 @@ public:
     /// Enables the device. Returns false if the device is not disabled. Otherwise, infoChanged()
     /// reports the result.
     virtual bool enable() = 0;
-    /// Changes the generations of networks that the modem may use. Returns false if there is no
-    /// modem; otherwise infoChanged() reports the outcome.
+    /// Changes the network generations that the modem may use. Returns false if there is no modem.
+    /// Otherwise, infoChanged() reports the result.
     virtual bool setModes(const TKSV_Modes &modes) = 0;
     virtual DeviceInfo info() const = 0;
 };

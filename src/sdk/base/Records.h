@@ -25,7 +25,7 @@ std::shared_ptr<void> encodeSmsResult(const SmsMessage &message, int result);
 /// Returns the status as a TKSV_SMSStatus.
 std::shared_ptr<void> encodeSmsStatus(bool canSend);
 
-/// Returns the null-terminated string.
+/// Converts the null-terminated array, which must not be null, to a string.
 std::u16string decodeText(const unsigned short *text);
 
 } // namespace Tksv

@@ -108,9 +108,9 @@ std::vector<unsigned long> ticketsIn(int folder)
     return numbers;
 }
 
-/// Returns true if a running program holds the ticket. Otherwise, the program has crashed, and its
-/// ticket is removed. `number` must be lower than the number of this program's ticket, because a
-/// newer ticket may not be locked yet.
+/// Returns true if a running program holds the ticket. If the program has crashed, its ticket is
+/// removed. `number` must be lower than the number of this program's ticket, because a newer ticket
+/// may not be locked yet.
 bool isHeld(int folder, unsigned long number)
 {
     const std::string name = std::to_string(number);

@@ -46,8 +46,8 @@ private:
     int m_folder = -1;
     int m_ticket = -1;
     unsigned long m_number = 0; // the number of the ticket
-    bool m_isFirst = false;     // no ticket has a lower number, and none can be added
-    bool m_isUnusable = false;  // the folder is not usable
+    bool m_isFirst = false;     // true if no ticket with a lower number exists or can be added
+    bool m_isUnusable = false;  // true if the folder is not usable
 };
 
 } // namespace Tksv

@@ -11,7 +11,7 @@ namespace Tksv
 
 /**
  * A thread of the library. It blocks all signals, so that they are handled by the client's own
- * threads. The class is not thread-safe and must be protected by a lock of its owner.
+ * threads. The class is not thread-safe; its owner must protect it with a lock.
  */
 class WorkerThread
 {

@@ -138,8 +138,8 @@ void ModemDevice::setModes(const TKSV_Modes &modes)
                                asyncDone(ifAlive(weak_from_this(), done)));
 }
 
-/// Fetches the SIM after a short delay if the SIM has changed. Reading the SIM takes several calls,
-/// which would delay a program that only sends one command.
+/// Fetches the SIM after a short delay if the SIM has changed. Reading the SIM requires several
+/// calls, which would otherwise delay a program that only sends one command.
 void ModemDevice::fetchSimSoon()
 {
     if (textOf(mm_modem_get_sim_path(m_modem.get())) == m_simPath ||

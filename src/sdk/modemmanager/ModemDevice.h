@@ -40,11 +40,11 @@ public:
 
     UssdChannel &ussd() { return *m_ussd; }
     SmsSender &sms() { return *m_sms; }
-    /// Sends the PIN. If the SIM has not been fetched yet, sends the PIN as soon as it has.
+    /// Sends the PIN as soon as the SIM has been fetched.
     void sendPin(const std::string &pin);
     /// Enables the modem. If this fails, info() contains the problem.
     void enable();
-    /// Changes the generations of networks that the modem may use.
+    /// Changes the network generations that the modem may use.
     void setModes(const TKSV_Modes &modes);
     /// Reports the request in flight and all messages that are being sent as failed. `reason`
     /// applies to the request.
@@ -78,12 +78,12 @@ private:
     GObjectPtr<MMSim> m_sim;
     std::string m_simPath; // D-Bus path of the SIM that was requested last
     bool m_isSimFetchPlanned = false;
-    std::string m_pendingPin; // to be sent once the SIM has been fetched; empty if none
+    std::string m_pendingPin; // the PIN to send once the SIM has been fetched; may be empty
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
     bool m_enableWanted = false; // true if the modem must be enabled as soon as possible
     MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // most recent state that was at least LOCKED
-    bool m_hasModeChangeFailed = false; // the most recent call of setModes() has failed
+    bool m_hasModeChangeFailed = false; // true if the most recent call of setModes() has failed
     TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE; // problem of the most recent call
 };
 

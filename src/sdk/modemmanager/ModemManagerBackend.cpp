@@ -200,8 +200,8 @@ void ModemManagerBackend::perform(const Request &request, unsigned lostModemCoun
             refusedReply(takesCommands(m_info) ? TKSV_FAILURE_DEVICE_LOST : refusalOf(m_info)));
 }
 
-/// Selects a modem from the modems of the watch. Unless the user has selected a modem, the first
-/// registered modem is used until it is lost.
+/// Selects one of the modems that the watch has found. Unless the user has selected a modem, the
+/// first registered modem is used until it is lost.
 void ModemManagerBackend::modemsChanged()
 {
     if (!m_observer)

@@ -13,7 +13,8 @@ namespace
 
 const unsigned int ALL_MODES = TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G | TKSV_MODE_5G;
 
-// ModemManager's values follow that of circuit-switched data.
+// MMModemMode has an additional first value, which is for circuit-switched data. Each of the other
+// values is therefore twice the corresponding value of TKSV_Mode.
 static_assert(MM_MODEM_MODE_2G == TKSV_MODE_2G << 1 && MM_MODEM_MODE_3G == TKSV_MODE_3G << 1 &&
               MM_MODEM_MODE_4G == TKSV_MODE_4G << 1 && MM_MODEM_MODE_5G == TKSV_MODE_5G << 1);
 

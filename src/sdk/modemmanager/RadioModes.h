@@ -12,12 +12,12 @@ namespace Tksv
 /// Returns ModemManager's value for a combination of TKSV_Mode values.
 MMModemMode toModemMode(unsigned int modes);
 
-/// Returns the current setting of the modem and the one that also allows 2G or 3G.
+/// Returns the current setting of the modem, and the setting that withOlderModes() suggests.
 TKSV_ModesInfo modesOf(MMModem *modem);
 
-/// Returns the supported setting that allows the most generations among those that allow 2G or 3G
-/// in addition to the current ones. If there is none, it need not include the current ones. The
-/// setting is empty if 2G or 3G is already allowed.
+/// Returns the best supported setting that allows 2G or 3G. A setting that keeps all current
+/// generations is better than any other; otherwise, a setting is better the more generations it
+/// allows. Returns an empty setting if there is no such setting or if 2G or 3G is already allowed.
 TKSV_Modes withOlderModes(const TKSV_Modes &current, const std::vector<TKSV_Modes> &supported);
 
 } // namespace Tksv

@@ -18,8 +18,8 @@ namespace Tksv
  * deleted. All functions must be called from the thread of the main loop.
  *
  * Pending calls hold a reference to this object, so that stored messages are deleted even after the
- * owner has released its reference. Before it does so, the owner must call failPending(). The
- * listener is not called after that.
+ * owner has released its reference. The owner must call failPending() before it releases its
+ * reference. The listener is not called afterwards.
  */
 class SmsSender : public std::enable_shared_from_this<SmsSender>
 {

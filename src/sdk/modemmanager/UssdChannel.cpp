@@ -311,7 +311,8 @@ void UssdChannel::callReturned(unsigned call, GMemory<char> text, const GError *
     waitForState();
 }
 
-/// Ends the command. There is nothing to cancel, because the session has ended or was never opened.
+/// Ends the command after its call has failed. There is nothing to cancel, because the session has
+/// ended or was never opened.
 void UssdChannel::callFailed(const GError &error)
 {
     if (isServiceLost(error))

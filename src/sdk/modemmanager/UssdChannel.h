@@ -25,10 +25,10 @@ namespace Tksv
  * whether the network is waiting for an answer. The channel therefore does not report the reply
  * until the state is no longer "active".
  *
- * All programs on the bus share the session. It is ours if our call has opened it: while the call
- * is running and, if the reply leaves the session open, until the state changes. If the network
- * opens a session and waits for an answer, any program may answer. The channel never ends or
- * answers a session of another program. The programs of one user take turns; see SessionTurn.
+ * All programs on the bus share the session. The session is ours if our call has opened it: while
+ * the call is running and, if the reply leaves the session open, until the state changes. If the
+ * network opens a session and waits for an answer, any program may answer. The channel never ends
+ * or answers a session of another program. The programs of one user take turns; see SessionTurn.
  *
  * All functions must be called from the thread of the main loop.
  */

@@ -130,8 +130,8 @@ bool isNotPermitted(const GError &error)
            hasCode(error, G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED);
 }
 
-/// Errors that occur because the modem is changing its state are not problems, because the modem
-/// will report its next state.
+/// Returns TKSV_PROBLEM_NONE for errors that occur because the modem is changing its state. The
+/// modem will report its next state.
 TKSV_DeviceProblem problemOfEnableError(const GError &error)
 {
     if (isNotPermitted(error))

@@ -17,7 +17,7 @@ std::string smsNumberOf(const std::string &name);
 std::string menuOf(const std::string &answerGroup);
 /// Returns true if the group name contains %s.
 bool hasPattern(const std::string &name);
-/// Returns the name in square brackets.
+/// Returns the name enclosed in square brackets.
 std::string bracketed(const std::string &name);
 
 } // namespace Tksv

@@ -91,7 +91,7 @@ public:
     }
 
 private:
-    int m_groups = 0; // number of preceding groups, at most 2; only the first group is special
+    int m_groups = 0; // number of preceding groups, counted only up to 2
 };
 
 /// Returns the header without the characters that are not allowed in it. Returns an empty string if
@@ -202,8 +202,8 @@ private:
 
     GKeyFile *m_file;
     Complaints &m_complaints;
-    std::unordered_map<std::string, int> m_groupLines; // the line of each group
-    std::unordered_map<std::string, int> m_keyLines;   // the line of each key in the current group
+    std::unordered_map<std::string, int> m_groupLines; // line number of each group
+    std::unordered_map<std::string, int> m_keyLines;   // line number of each key of the group
     int m_line = 0;
 };
 

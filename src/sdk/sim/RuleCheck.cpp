@@ -123,7 +123,8 @@ private:
         allow("NotEnough", has("Credit"), "with Credit");
     }
 
-    /// Checks that the group of an answer matches the group of its menu.
+    /// Checks that the menu of an answer exists and has a reply, and that the group name of the
+    /// answer is valid. Does nothing if the group is not that of an answer.
     void checkPlace()
     {
         if (kindOf(m_group.name) != GroupKind::Answer)

@@ -17,7 +17,8 @@ struct Match {
     std::string digits; // the digits matched by %s
 };
 
-/// Returns the group that is named exactly like the code, or else the longest matching pattern.
+/// Returns the group whose name equals the code, or else the group with the longest matching
+/// pattern.
 Match findCode(const Scenario &scenario, const std::string &code);
 /// Returns the group for exactly this answer, or else the group for any other answer.
 Match findAnswer(const Scenario &scenario, const std::string &menu, const std::string &answer);

@@ -66,7 +66,7 @@ struct SmsRule {
     Milliseconds delay = Milliseconds(0);
 };
 
-/** A change to the device at a specified time after the start, which may be repeated. */
+/** A change to the device at a specified time after the simulation starts. It may be repeated. */
 struct TimedEvent {
     Milliseconds after = Milliseconds(0);
     std::optional<Milliseconds> every;
@@ -95,7 +95,7 @@ struct Scenario {
     Milliseconds delay = Milliseconds(0);
     bool smsReady = true;
     bool isRoaming = false;
-    unsigned int modes = TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G; // allowed at first
+    unsigned int modes = TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G; // initially allowed
     std::optional<Amount> balance;
     std::string currency;
 

@@ -130,8 +130,8 @@ bool readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Com
     return isComplete;
 }
 
-/// Returns the group [Network]. If there is none, returns a group whose name seems to be a
-/// misspelling of it, or null.
+/// Returns the [Network] group. If there is none, returns an unknown group with the keys of this
+/// group, because its name is probably misspelt. Returns null if there is no such group either.
 const KeyFileGroup *findNetwork(const std::vector<KeyFileGroup> &groups)
 {
     const KeyFileGroup *similar = nullptr;
