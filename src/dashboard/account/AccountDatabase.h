@@ -7,14 +7,15 @@
 namespace Dashboard
 {
 
-/** The entries of all SIMs. Each entry is one transaction together with its day. */
+/** The entries of all SIMs. Each entry and its day are stored in a single transaction. */
 class AccountDatabase : public UserDatabase
 {
 public:
     /// If `file` is empty, the database is kept in memory.
     explicit AccountDatabase(const QString &file);
 
-    /// Adds the entry and updates its day. Returns false if the entry cannot be stored.
+    /// Adds the entry and updates the balance of its day. Returns false if the entry cannot be
+    /// stored.
     bool add(const QString &sim, const AccountEntry &entry);
     /// Returns the newest entry with this code.
     AccountEntry newest(const QString &sim, const QString &code);

@@ -16,7 +16,7 @@ const int VISIBLE_DIGITS = 4;
 /// Returns true if there is a currency directly before or after the digits.
 bool isAmount(const QString &text, int start, int end)
 {
-    const int reach = 8; // the length of the longest currency and a space
+    const int reach = 8; // the number of characters to search on each side of the digits
     const QString before =
         plainForm(text.mid(qMax(0, start - reach), start - qMax(0, start - reach)));
     const QString behind = plainForm(text.mid(end, reach));
