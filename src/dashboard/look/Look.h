@@ -61,7 +61,7 @@ private:
     Shade m_systemShade = Shade::Light;
     bool m_isStarted = false;
     bool m_reducesMotion = false;
-    mutable QFont m_emFont; // the font of m_em
+    mutable QFont m_emFont; // the font for which m_em was computed
     mutable int m_em = 0;   // 0 means that it is not known yet
     QString m_sheet;
 };
