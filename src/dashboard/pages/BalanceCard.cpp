@@ -15,7 +15,7 @@ namespace Dashboard
 namespace
 {
 
-const int OLD_DAYS = 7;      // the card shows the age of the balance from this number of days on
+const int OLD_DAYS = 7;      // the minimum age of a balance whose age the card shows
 const int WIDE_HEIGHT = 196; // in pixels at 100 % text size
 const int REPLY_LINES = 3;   // for a reply that does not contain a balance
 

@@ -30,14 +30,14 @@ struct CodesParts {
     CommandMonitor *commands;
     CodeHistory *history;
     std::function<QList<CodeName>()> names; // the codes of the operator and of the user
-    ModeChoice *modes = nullptr;            // of the modem; null if the modem has no choice
+    ModeChoice *modes = nullptr;            // the network modes of the modem; may be null
     ChainRunner *chains = nullptr;
     WalkWatcher *walks = nullptr;
-    Favourites *favourites = nullptr; // may be null in tests; then, no chain is offered
+    Favourites *favourites = nullptr; // may be null in tests; chains are then not offered
 };
 
 /**
- * The page Codes, with the plug-in's general window and a strip with the state of the current
+ * The Codes page, with the plug-in's general window and a strip with the state of the current
  * command.
  */
 class CodesPage : public Page
@@ -74,14 +74,14 @@ public slots:
     void useCode(const QString &code);
     /// Enters the code into the command field without sending it.
     void typeCode(const QString &code);
-    /// Runs the chain with this name, if a code can be sent now.
+    /// Runs the chain with this name. Does nothing if no code can be sent now.
     void runChain(const QString &name);
-    /// Cancels the command on its way, or ends the open menu.
+    /// Cancels the command in flight, or ends the open menu.
     void stop();
     void answerNumber(int position);
     void openHistory();
     void copyReply();
-    /// Opens the bar that finds words in the transcript.
+    /// Opens the bar in which the user can search the transcript.
     void find();
     /// Saves the transcript as plain text in a file that the user selects.
     void saveTranscript();

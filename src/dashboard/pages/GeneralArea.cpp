@@ -177,7 +177,8 @@ void GeneralArea::watchPresets()
         hidePresets();
 }
 
-/// Hides the preset buttons. The buttons in use are those that the plug-in has most recently shown.
+/// Hides the preset buttons and the field for their numbers. If the plug-in has shown new buttons
+/// since the last call, showPresets() will show only these buttons.
 void GeneralArea::hidePresets()
 {
     QList<QPointer<QWidget>> hidden;

@@ -158,7 +158,7 @@ void HomePage::makeMessage()
             [this] { emit messageChosen(m_message.id); });
 }
 
-// ---- what is shown ------------------------------------------------------------------------------
+// ---- content ------------------------------------------------------------------------------------
 
 void HomePage::setCodes(const AccountCodes &codes)
 {
@@ -351,7 +351,7 @@ void HomePage::lookAtBalance()
     m_balance->show(view);
 }
 
-/// Returns the most recent entry that contains the validity. Its code is the one for querying the
+/// Returns the most recent entry that contains the validity, but with the code that queries the
 /// validity again.
 AccountEntry HomePage::validityEntry() const
 {
@@ -463,7 +463,7 @@ void HomePage::lookAtFavourites()
     m_grid->setEnabled(m_situation.canSend);
 }
 
-// ---- what the user does -------------------------------------------------------------------------
+// ---- actions ------------------------------------------------------------------------------------
 
 void HomePage::askAgain()
 {

@@ -37,7 +37,7 @@ struct HomeMessage {
 };
 
 /**
- * The page Home, with the balance, its chart, the tiles, the favourites and the newest message. The
+ * The Home page, with the balance, its chart, the tiles, the favourites and the newest message. The
  * page sends codes only if the user clicks a button.
  */
 class HomePage : public Page
