@@ -76,7 +76,8 @@ public:
     bool canSend() const;
     /// Returns true if the code field contains something that has not been sent.
     bool hasTypedText() const;
-    /// Returns the codes that the user sent, newest first, each once, without numbers and PINs.
+    /// Returns the codes that the user has sent, starting with the newest one, without duplicates,
+    /// and without numbers and PINs.
     QStringList recent() const { return m_recent; }
     /// Sets the codes that contain a placeholder for a number ("%s"). They are used to remove
     /// numbers from codes.
@@ -105,9 +106,9 @@ public slots:
     void dismiss();
     /// Updates the state from the session, the replies and the windows.
     void look();
-    /// Discards the failure. Must be called when another device or another plug-in is in use.
+    /// Discards the failure. Must be called when the device or the plug-in has changed.
     void forget();
-    /// Discards the codes that the user has sent.
+    /// Clears the list of codes that recent() returns.
     void forgetRecent() { m_recent.clear(); }
     void retranslate();
     /// Updates the number of seconds. Called every second while a command is pending.
@@ -159,11 +160,11 @@ private:
     Reply m_reply;                   // the newest reply to the most recent request
     QString m_menu;                  // the newest message that requires an answer
     bool m_hasNewMenu = false;       // true if m_menu is newer than the state
-    TKSV_FailureInfo m_failure = {}; // valid in the states Failed and Cancelled
+    TKSV_FailureInfo m_failure = {}; // valid if the state is Failed or Cancelled
     qint64 m_start = 0;              // when the pending command was sent
     bool m_isTranscriptChanged = false;
     // Request numbers; see TKSV_SessionInfo.
-    unsigned long m_pendingRequest = 0; // valid in the states Waiting and Queued
+    unsigned long m_pendingRequest = 0; // valid if the state is Waiting or Queued
     unsigned long m_ownRequest = 0;     // the most recent request of a general window
     unsigned long m_givenUp = 0;        // the request that the plug-in has given up
     unsigned long m_firstQuery = 0;     // the first request of the query; 0 if there was no query

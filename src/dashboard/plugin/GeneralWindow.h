@@ -56,8 +56,9 @@ public:
     /// accept the text.
     bool send(const QString &text) const;
 
-    /// Returns true if the plug-in shows this string instead of a reply, for example because no
-    /// reply has arrived in time.
+    /// Returns true if the plug-in shows this string instead of a reply after a time-out.
+    /// isFailureText() also returns true for the string that the plug-in shows after any other
+    /// failure.
     static bool isTimeOutText(const QString &text);
     static bool isFailureText(const QString &text);
 

@@ -97,7 +97,7 @@ void ReplyTap::keep(const Reply &reply)
         QMutexLocker lock(&m_mutex);
         m_reply = reply;
         if (!reply.text.isEmpty() || !reply.code.isEmpty())
-            m_untaken << reply; // expectAnswer() does not add a reply
+            m_untaken << reply; // the reply that expectAnswer() creates is empty and is not added
         if (m_untaken.size() > MOST_UNTAKEN)
             m_untaken.removeFirst();
     }
