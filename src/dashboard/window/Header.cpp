@@ -20,7 +20,7 @@ const int NARROW_HEIGHT = 60;
 const int SHOWN_DIGITS = 4;
 const int NUMBER_TIME = 10000; // ms
 
-// The columns in the wide form. The narrow form uses only the first ones and those of the buttons.
+// The columns of the layout. In the narrow form, the columns SimIcon, Sim and Eye are empty.
 enum Column { Operator, Kind, Bars, Signal, Gap, SimIcon, Sim, Eye, Bell, Menu };
 
 template <typename T>
@@ -149,7 +149,7 @@ QString Header::simText() const
     return dashboardText("HEADER_SIM_ENDING").arg(isolated(number.right(SHOWN_DIGITS)));
 }
 
-// The operator's name is more important than the SIM.
+// Returns false if the SIM would reduce the space for the operator's name.
 bool Header::hasRoomForSim() const
 {
     if (m_form == Form::Narrow)
