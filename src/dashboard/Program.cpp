@@ -94,7 +94,8 @@ int leaveToFirst(const Arguments &arguments)
     return namesDevice(arguments) ? fail(dashboardText("CLI_DEVICE_STAYS")) : EXIT_GOOD;
 }
 
-/// Gives windows the icon of the program. A Wayland compositor takes the icon from the menu entry.
+/// Sets the icon of the program's windows. Wayland compositors use the icon of the desktop entry
+/// instead.
 void identifyWindows()
 {
     QGuiApplication::setDesktopFileName(QLatin1String("ussd-dashboard"));
