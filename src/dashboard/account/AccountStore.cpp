@@ -107,7 +107,7 @@ QList<BalanceDay> AccountStore::lastDays() const
 void AccountStore::removeAll()
 {
     m_numbers.clear();
-    begin(m_keeping); // closes the file
+    begin(m_keeping); // closes the file before it is removed
     if (!AccountDatabase(m_file).removeAll())
         emit problem(dashboardText("MESSAGE_NOT_REMOVED").arg(m_file));
     emit changed();
