@@ -102,7 +102,8 @@ int Look::px(int at100Percent) const
 
 int Look::em() const
 {
-    // Every size depends on this value, and finding the font takes much longer than comparing it.
+    // Caches the value, because it is needed for every size, and resolving a font takes much longer
+    // than comparing two fonts.
     const QFont font = QApplication::font();
     if (m_em == 0 || font != m_emFont) {
         m_emFont = font;

@@ -35,7 +35,7 @@ public:
     void setSystemShade(Shade shade);
     QColor color(Token token) const { return tokenColor(token, shade()); }
 
-    /// Returns the size in pixels, as the function px() does.
+    /// Returns the size in pixels, scaled with the application font.
     int px(int at100Percent) const;
     /// Returns the size of the application font in pixels.
     int em() const;
