@@ -177,7 +177,7 @@ void MessageStore::endWaiting()
 void MessageStore::removeAll()
 {
     const bool isStoring = !m_database->isInMemory();
-    m_database.reset(new MessageDatabase(QString())); // closes the file
+    m_database.reset(new MessageDatabase(QString())); // closes the file before it is removed
     const bool isRemoved = MessageDatabase(m_file).removeAll();
     begin(isStoring ? m_file : QString());
     if (!isRemoved)
