@@ -17,7 +17,7 @@ namespace
 
 const int OLD_DAYS = 7;      // the minimum age of a balance whose age the card shows
 const int WIDE_HEIGHT = 196; // in pixels at 100 % text size
-const int REPLY_LINES = 3;   // for a reply that does not contain a balance
+const int REPLY_LINES = 3;   // shown of a reply that does not contain a balance
 
 QString firstLines(const QString &text)
 {

@@ -36,7 +36,7 @@ namespace
 
 const double LARGEST_SCALE_OF_A_FRAME = 1.3; // the frame of the general window has a fixed size
 const int CHOICE_KEYS = 10;
-const int PAYMENT_BUTTONS = 2; // the last preset buttons require a number
+const int PAYMENT_BUTTONS = 2; // the number of preset buttons that require a number
 
 /// Returns the complete name of a preset button, even if the button shows an elided name.
 QString fullName(const QPushButton *button)
@@ -137,7 +137,7 @@ void CodesPage::resizeEvent(QResizeEvent *event)
 void CodesPage::makeLayout()
 {
     QVBoxLayout *inside = new QVBoxLayout(m_card);
-    inside->setContentsMargins(1, 1, 1, 1); // the border of the card
+    inside->setContentsMargins(1, 1, 1, 1); // leaves space for the border of the card
     inside->setSpacing(0);
     inside->addWidget(m_strip);
     inside->addWidget(m_area, 1);

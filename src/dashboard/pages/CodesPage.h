@@ -69,8 +69,8 @@ public:
     QList<QAction *> shortcuts() const { return m_shortcuts; }
 
 public slots:
-    /// Sends the code. If the code contains hidden digits, lets the user enter them first, and
-    /// enters the code into the command field without sending it.
+    /// Sends the code. If the code contains hidden digits, it is not sent. Instead, the user enters
+    /// these digits in a dialog, and the complete code is entered into the command field.
     void useCode(const QString &code);
     /// Enters the code into the command field without sending it.
     void typeCode(const QString &code);
@@ -87,8 +87,7 @@ public slots:
     void saveTranscript();
 
 signals:
-    /// Emitted when the user has pressed one of the page's shortcuts, so that the page must be
-    /// shown.
+    /// Emitted when the user has pressed one of the page's shortcuts. The page must then be shown.
     void wanted();
     void ownWindowRequested();
     void remedyChosen(Dashboard::Remedy remedy);

@@ -148,8 +148,8 @@ void FavouriteDialog::move(int rows)
     m_list->setCurrentRow(target);
 }
 
-/// Disables the buttons and check boxes that cannot be used, for example because the first code
-/// cannot be moved up or the maximum number of favourites is selected.
+/// Enables or disables the buttons and check boxes. For example, the first code cannot be moved up,
+/// and no further code can be selected if the maximum number of favourites has been reached.
 void FavouriteDialog::look()
 {
     const int row = m_list->currentRow();

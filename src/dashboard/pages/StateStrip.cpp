@@ -29,9 +29,7 @@ const int CHOICE_PADDING = 40; // the padding on both sides of a choice and the 
 
 using Kind = CommandState::Kind;
 
-/**
- * Gives the strip the role of a status bar, which users can make screen readers read on request.
- */
+/** Gives the strip the role of a status bar, so that screen readers can read it on request. */
 class StripAccessible : public QAccessibleWidget
 {
 public:
