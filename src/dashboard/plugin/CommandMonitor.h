@@ -48,7 +48,7 @@ struct CommandState {
     bool operator!=(const CommandState &other) const { return !(*this == other); }
 };
 
-/// The time limit for a reply that is displayed to the user.
+/// The time limit for a reply in seconds, as displayed to the user.
 const int REPLY_SECONDS = 30;
 
 /**
@@ -120,7 +120,8 @@ signals:
     /// Emitted each second while a command is pending.
     void ticked(int seconds);
     /// Emitted for each reply to a command of any window, and for each network-initiated message.
-    /// `code` is the command to which the reply belongs, or empty for a network-initiated message.
+    /// `code` is the command to which the reply belongs, or an empty string if the network has
+    /// initiated the message.
     void replied(const QString &code, const Dashboard::Reply &reply);
     /// Emitted when the user has sent a code in a general window. `code` contains no number or PIN.
     void sent(const QString &code);

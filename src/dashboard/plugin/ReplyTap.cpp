@@ -88,7 +88,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     reply.asksForAnswer = response->type == NETWORK_WAITS;
     reply.code = answeredCode();
     tap->keep(reply);
-    return 0; // the return value of the plug-in's call-back is decisive
+    return 0; // only the return value of the plug-in's call-back is significant
 }
 
 void ReplyTap::keep(const Reply &reply)
