@@ -155,7 +155,7 @@ bool Header::hasRoomForSim() const
     if (m_form == Form::Narrow)
         return false;
     if (!isVisible())
-        return true; // the sizes are not needed yet, and they would apply the style too early
+        return true; // computing the sizes would apply the style too early
     const QMargins margins = m_grid->contentsMargins();
     int wanted = margins.left() + margins.right();
     for (const QWidget *part : {static_cast<QWidget *>(m_operator), static_cast<QWidget *>(m_chip),
