@@ -216,7 +216,7 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     doWithoutDisplay();
     setReplyTimeout(TourGuide::REPLY_LIMIT);
     PrivatePluginFolder library;
-    qputenv("QT_FONT_DPI", "96"); // the default of the platform plug-in "offscreen" differs
+    qputenv("QT_FONT_DPI", "96"); // the "offscreen" platform plug-in has a different default
     applyTextSize(100);           // per cent
     QApplication application(argc, argv);
     if (!library.isValid())
