@@ -27,7 +27,7 @@ public:
 
     /// Sets the home network whose favourites are used. `network` consists of its MCC and MNC.
     void setNetwork(const QString &network);
-    /// Returns the favourites: chains, and those of the given codes that the user has selected. If
+    /// Returns the favourites that the user has selected from the given codes and the chains. If
     /// the user has never selected favourites, returns the codes that most subscribers need,
     /// followed by the chains. At most MOST favourites are returned.
     QList<NamedCode> among(const AccountCodes &codes) const;
