@@ -24,7 +24,7 @@ public:
     /// Returns the only instance, which belongs to the current QApplication.
     static Look &instance();
 
-    /// Sets the palette and the style sheet of the application. From now on, they are updated when
+    /// Sets the palette and the style sheet of the application. Afterwards, they are updated when
     /// the theme, the layout direction or the application font changes.
     void start();
 
