@@ -192,7 +192,7 @@ void GeneralArea::hidePresets()
         return;
     for (const QPointer<QWidget> &part : m_hidden) {
         if (part && !qobject_cast<QPushButton *>(part.data()))
-            hidden << part; // the plug-in only shows buttons again, but not the other widgets
+            hidden << part; // the plug-in shows only the buttons again, but not the other widgets
     }
     m_hidden = hidden;
     general().widenHistory(); // otherwise, the empty columns would take up space

@@ -21,7 +21,7 @@ namespace Dashboard
 namespace
 {
 
-const int CODE_ROLE = Qt::UserRole + 1;  // empty in the row that deletes the history
+const int CODE_ROLE = Qt::UserRole + 1;  // empty in the row that is shown instead of an empty list
 const int CHAIN_ROLE = Qt::UserRole + 2; // the name of a chain; otherwise empty
 const int COLUMNS = 3;                   // code, name, time
 const int MOST_ROWS = 8;

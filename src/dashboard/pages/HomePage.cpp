@@ -70,7 +70,7 @@ HomePage::HomePage(const Parts &parts, QWidget *parent)
     setForm(Form::Wide);
 }
 
-// ---- building -----------------------------------------------------------------------------------
+// ---- construction -------------------------------------------------------------------------------
 
 void HomePage::makeAccount()
 {

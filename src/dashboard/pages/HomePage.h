@@ -57,7 +57,7 @@ public:
 
     void setCodes(const AccountCodes &codes);
     void setSituation(const Situation &situation);
-    /// Sets the description of the SIM, such as "SIM ending 6789". May be empty.
+    /// Sets the description of the SIM, such as "SIM ending 6789", or an empty string to hide it.
     void setSimText(const QString &text);
     void setMessage(const HomeMessage &message);
 
