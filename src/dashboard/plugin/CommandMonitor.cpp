@@ -171,7 +171,7 @@ void CommandMonitor::look()
     const unsigned long earlier = m_session.requests;
     const GeneralWindow window = activeWindow();
     follow(window);
-    readReplies(); // must precede reading the session, which a reply may change
+    readReplies(); // must be called before readSession(), because a reply may change the session
     m_session = readSession();
     if (isPending(window))
         pend(window);
@@ -286,7 +286,7 @@ void CommandMonitor::end(const GeneralWindow &window)
     m_timer.stop();
     m_state.code = m_session.request;
     if (isSameText(window.lastSent(), m_session.request))
-        takeAsOwn(); // the reply may already have arrived
+        takeAsOwn(); // the reply may have arrived before pend() could call this function
     const bool isAnswered =
         m_reply.isReceived && !m_reply.text.isEmpty() && m_reply.code == m_session.request;
     if (m_session.waitsForAnswer())

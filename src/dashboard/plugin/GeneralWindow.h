@@ -67,7 +67,8 @@ public:
     /// Returns the most recent reply in the transcript without its caption, or an empty string if
     /// there is no reply. The transcript's markup may have changed the white space of the reply.
     QString lastReceived() const;
-    /// Returns the most recent command in the transcript without its caption, or an empty string.
+    /// Returns the most recent command in the transcript without its caption, or an empty string if
+    /// there is no command.
     QString lastSent() const;
 
     /// Enlarges the transcript to use the space that the buttons do not need.
