@@ -173,7 +173,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     const SingleInstance instance(SingleInstance::sessionName(settings.file()));
     if (instance.role() == SingleInstance::Later)
         return leaveToFirst(arguments);
-    HostCore::Languages::setCurrent(HostCore::Languages::current()); // also updates widgets
+    // Sets the layout direction and Qt's own texts, which requires the QApplication.
+    HostCore::Languages::setCurrent(HostCore::Languages::current());
     identifyWindows();
     startLook(settings);
     DeviceChoice choice = wantedDevice(arguments, settings);
@@ -197,7 +198,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = interruption.signalNumber() == 0 ? QApplication::exec() : EXIT_GOOD;
-    plugin.shutDown(); // before the window that contains the plug-in's page is deleted
+    plugin.shutDown(); // must precede the deletion of the window that contains the plug-in's page
     saveSettings(&settings, &window);
     return result;
 }
