@@ -15,8 +15,9 @@ namespace Dashboard
 {
 
 /**
- * The dialog in which the user selects favourites from all codes and chains with check boxes, and
- * changes their order with the mouse or with buttons. Chains can be renamed and deleted.
+ * The dialog in which the user selects favourites from all codes and chains. The list contains a
+ * check box for each of them. The order can be changed with the mouse or with buttons. Chains can
+ * be renamed and deleted.
  */
 class FavouriteDialog : public QDialog
 {

@@ -351,8 +351,8 @@ void HomePage::lookAtBalance()
     m_balance->show(view);
 }
 
-/// Returns the most recent entry that contains the validity, but with the code that queries the
-/// validity again.
+/// Returns the most recent entry that contains the validity. Its code is replaced with the code for
+/// querying the validity.
 AccountEntry HomePage::validityEntry() const
 {
     const AccountEntry own = m_parts.store->newest(m_codes.validity);
