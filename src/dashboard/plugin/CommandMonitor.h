@@ -160,7 +160,7 @@ private:
     Session m_session;
     Reply m_reply;                   // the newest reply to the most recent request
     QString m_menu;                  // the newest message that requires an answer
-    bool m_hasNewMenu = false;       // true if m_menu is newer than the state
+    bool m_hasNewMenu = false;       // true if the state does not contain m_menu yet
     TKSV_FailureInfo m_failure = {}; // valid if the state is Failed or Cancelled
     qint64 m_start = 0;              // when the pending command was sent
     bool m_isTranscriptChanged = false;
