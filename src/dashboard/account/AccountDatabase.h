@@ -23,8 +23,9 @@ public:
     AccountEntry newestBalance(const QString &sim);
     /// Returns the balances of all days since `first`, in ascending order.
     QList<BalanceDay> days(const QString &sim, const QDate &first);
-    /// Calls the function for each entry of the SIM, or of all SIMs if `sim` is empty, in ascending
-    /// order. The function returns false to stop. Returns false if the entries cannot be read.
+    /// Calls the function for each entry of the SIM, or of all SIMs if `sim` is empty, starting
+    /// with the oldest entry. The function returns false to stop. Returns false if it has been
+    /// stopped or if the entries cannot be read.
     bool forEach(const QString &sim,
                  const std::function<bool(const QString &sim, const AccountEntry &)> &use);
     bool removeBefore(const QDateTime &limit);
