@@ -94,7 +94,8 @@ int leaveToFirst(const Arguments &arguments)
     return namesDevice(arguments) ? fail(dashboardText("CLI_DEVICE_STAYS")) : EXIT_GOOD;
 }
 
-/// Gives windows the icon of the program. A Wayland compositor takes the icon from the menu entry.
+/// Sets the icon of the program's windows. Wayland compositors use the icon of the desktop entry
+/// instead.
 void identifyWindows()
 {
     QGuiApplication::setDesktopFileName(QLatin1String("ussd-dashboard"));
@@ -172,7 +173,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     const SingleInstance instance(SingleInstance::sessionName(settings.file()));
     if (instance.role() == SingleInstance::Later)
         return leaveToFirst(arguments);
-    HostCore::Languages::setCurrent(HostCore::Languages::current()); // also updates widgets
+    // Sets the layout direction and Qt's own texts, which requires the QApplication.
+    HostCore::Languages::setCurrent(HostCore::Languages::current());
     identifyWindows();
     startLook(settings);
     DeviceChoice choice = wantedDevice(arguments, settings);
@@ -196,7 +198,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = interruption.signalNumber() == 0 ? QApplication::exec() : EXIT_GOOD;
-    plugin.shutDown(); // before the window that contains the plug-in's page is deleted
+    plugin.shutDown(); // must precede the deletion of the window that contains the plug-in's page
     saveSettings(&settings, &window);
     return result;
 }
@@ -215,7 +217,7 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     doWithoutDisplay();
     setReplyTimeout(TourGuide::REPLY_LIMIT);
     PrivatePluginFolder library;
-    qputenv("QT_FONT_DPI", "96"); // the default of the platform plug-in "offscreen" differs
+    qputenv("QT_FONT_DPI", "96"); // the "offscreen" platform plug-in has a different default
     applyTextSize(100);           // per cent
     QApplication application(argc, argv);
     if (!library.isValid())

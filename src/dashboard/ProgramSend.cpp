@@ -31,7 +31,7 @@ namespace Dashboard
 namespace
 {
 
-const int REGISTRATION_LIMIT = 10000; // ms; how long --send waits for the device at most
+const int REGISTRATION_LIMIT = 10000; // ms; the maximum time for which --send waits for the device
 const QSize UNSEEN_SIZE(800, 600);    // size of the hidden parent of the general window
 
 int fail(const QString &text, int exitCode)
@@ -51,7 +51,8 @@ int failBecauseOf(const DeviceStatus &device)
     return Cli::EXIT_NOT_READY;
 }
 
-/// Waits for the modem if it is still registering. Returns an exit code.
+/// Waits until the device can send codes. If the arguments request it, also enables the device and
+/// ends the session of another program. Returns an exit code.
 int prepareDevice(const Arguments &arguments, const DeviceChoice &choice, const DeviceWait &wait)
 {
     wait.untilReady(choice);

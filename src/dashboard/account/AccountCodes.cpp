@@ -84,7 +84,7 @@ PluginConfig readConfigurationFile(const QString &file)
     return config;
 }
 
-/// Returns the code, or an empty string if it is not offered or requires a number.
+/// Returns the code. Returns an empty string if the code is not offered or requires a number.
 QString usable(bool isOffered, const QString &command)
 {
     const QString code = command.trimmed();

@@ -28,13 +28,13 @@ enum class CodeKind {
 /// Returns the name of the icon for codes of this kind.
 const char *codeIcon(CodeKind kind);
 
-/** A code with a name, from the operator's files or from the user's file, or a kept chain. */
+/** A named code from the operator's or the user's file, or a chain that the user has kept. */
 struct NamedCode {
     QString name; // in the user's language if the file has a text key
-    QString code; // may contain a place for a number
-    QString keys; // of a chain, such as "*123# › 2 › 1"; otherwise empty
+    QString code; // may contain a placeholder for a number
+    QString keys; // the keys of a chain, such as "*123# › 2 › 1"; empty for a code
     CodeKind kind = CodeKind::Other;
-    bool isOwn = false; // from the user's own profiles
+    bool isOwn = false; // true if the code is from the user's own profiles
 
     bool takesNumber() const;
     bool isChain() const { return !keys.isEmpty(); }
@@ -66,12 +66,13 @@ struct CodeFiles {
     static CodeFiles inUse();
 };
 
-/// Returns the codes with names and those of the account windows. They may contain a place for a
+/// Returns all named codes and all codes of the account windows. They may contain a placeholder for a
 /// number.
 QStringList readTemplates(const CodeFiles &files);
 
-/// Reads the codes. The account codes are those of this type of contract. If the type is unknown,
-/// they are taken from the profiles. A code that needs a number is not an account code.
+/// Reads the codes from the files. The configuration of the account window for this type of
+/// contract takes precedence over the profiles. Codes that require a number are not used to query
+/// account data.
 AccountCodes readAccountCodes(const CodeFiles &files, PaidType type);
 
 } // namespace Dashboard

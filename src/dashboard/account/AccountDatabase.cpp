@@ -130,7 +130,7 @@ bool AccountDatabase::insertDay(const QString &sim, const AccountEntry &entry)
                 qMax(-change, qint64(0)), qMax(change, qint64(0))});
 }
 
-/// Returns the first row as an entry, or a null entry.
+/// Returns the selected entry, or a null entry if there is none.
 AccountEntry AccountDatabase::select(const char *statement, const QVariantList &values)
 {
     AccountEntry entry;

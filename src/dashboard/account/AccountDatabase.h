@@ -7,14 +7,15 @@
 namespace Dashboard
 {
 
-/** The entries of all SIMs. Each entry is one transaction together with its day. */
+/** The entries of all SIMs. Each entry and its day are stored in a single transaction. */
 class AccountDatabase : public UserDatabase
 {
 public:
     /// If `file` is empty, the database is kept in memory.
     explicit AccountDatabase(const QString &file);
 
-    /// Adds the entry and updates its day. Returns false if the entry cannot be stored.
+    /// Adds the entry and updates the balance of its day. Returns false if the entry cannot be
+    /// stored.
     bool add(const QString &sim, const AccountEntry &entry);
     /// Returns the newest entry with this code.
     AccountEntry newest(const QString &sim, const QString &code);
@@ -22,8 +23,9 @@ public:
     AccountEntry newestBalance(const QString &sim);
     /// Returns the balances of all days since `first`, in ascending order.
     QList<BalanceDay> days(const QString &sim, const QDate &first);
-    /// Calls the function for each entry of the SIM, or of all SIMs if `sim` is empty, in ascending
-    /// order. The function returns false to stop. Returns false if the entries cannot be read.
+    /// Calls the function for each entry of the SIM, or of all SIMs if `sim` is empty, starting
+    /// with the oldest entry. The function returns false to stop. Returns false if it has been
+    /// stopped or if the entries cannot be read.
     bool forEach(const QString &sim,
                  const std::function<bool(const QString &sim, const AccountEntry &)> &use);
     /// Records that another code was answered after the balance was asked, or that this is over.

@@ -20,7 +20,7 @@ const char JSON[] = ".json";
 
 struct Field {
     const char *name;
-    QString value; // empty if the reply does not contain it
+    QString value; // empty if the reply does not contain this value
 };
 
 QString bytesText(qint64 bytes)

@@ -124,7 +124,7 @@ bool AccountStore::isOutdated() const
 void AccountStore::removeAll()
 {
     m_numbers.clear();
-    begin(m_keeping); // closes the file
+    begin(m_keeping); // closes the file before it is removed
     if (!AccountDatabase(m_file).removeAll())
         emit problem(dashboardText("MESSAGE_NOT_REMOVED").arg(m_file));
     emit changed();

@@ -26,7 +26,7 @@ public:
     static const int MONTHS_KEPT = 12;
     static const int CHART_DAYS = 30;
 
-    /// The location of the current entries.
+    /// The location in which the entries of the current SIM are kept.
     enum class Keeping { InFile, InMemory, Demonstration };
 
     /// The file is opened when an entry is first read or added.

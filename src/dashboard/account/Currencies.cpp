@@ -264,8 +264,8 @@ bool isLetterAt(const QString &text, int position)
     return position >= 0 && position < text.length() && text.at(position).isLetter();
 }
 
-/// Returns true if the mark is only a part of a word. Scripts that do not separate words, such as
-/// Chinese and Thai, do not have such parts.
+/// Returns true if the mark is only a part of a word. Always returns false for Chinese, Thai and
+/// Korean, where a currency is often not separated from adjacent words.
 bool isInsideWord(const QString &text, int start, int end)
 {
     const QChar::Script script = text.at(start).script();

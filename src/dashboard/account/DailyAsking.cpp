@@ -12,7 +12,7 @@ namespace Dashboard
 namespace
 {
 
-const int INTERVAL = 5 * 60 * 1000; // ms between two looks
+const int INTERVAL = 5 * 60 * 1000; // ms between two calls of look()
 const qint64 SECONDS_IN_HOUR = 3600;
 
 QString userSimKey(const QString &imsi)
@@ -49,11 +49,12 @@ void DailyAsking::look()
 {
     if (!m_settings || !m_settings->asksDaily() || m_code.isEmpty() || !mayAsk() || !isDue())
         return;
-    note(); // before the code is sent, so that no failure can repeat it
+    note(); // precedes send(), so that the code is not sent again if it fails
     m_monitor->send(m_code);
 }
 
-/// Returns true if nothing goes on, and if the code cannot cost more than in the home network.
+/// Returns true if the device and the user are idle and the device is registered with the SIM's
+/// home network, because codes may be more expensive in other networks.
 bool DailyAsking::mayAsk() const
 {
     const DeviceStatus &status = m_device->status();
@@ -63,7 +64,8 @@ bool DailyAsking::mayAsk() const
            m_mayAsk();
 }
 
-/// A time in the future comes from a clock that was wrong, and is ignored after a day.
+/// Returns true if there was no query in the last 24 hours. A time in the future, which results
+/// from a wrong clock, is ignored if it is at least 24 hours ahead.
 bool DailyAsking::isDue() const
 {
     const QDateTime last = m_settings->lastAsked(sim());
@@ -77,7 +79,8 @@ void DailyAsking::note()
         m_settings->setLastAsked(key, m_clock());
 }
 
-/// The IMSI itself must not be stored. A demonstration has a key of its own.
+/// Returns the key of the SIM, because the IMSI itself must not be stored. Demonstrations use a
+/// separate key.
 QString DailyAsking::sim() const
 {
     const DeviceStatus &status = m_device->status();

@@ -15,9 +15,10 @@ class DashboardSettings;
 class DeviceWatcher;
 
 /**
- * Asks for the balance once in 24 hours if the user has switched this on. It asks only while
- * nothing else goes on, and only in the home network of the SIM. A code that anybody has sent
- * counts, and so does an attempt that fails. All functions must be called from the GUI thread.
+ * Queries the balance once every 24 hours if the user has enabled this. The code is sent only while
+ * the device and the user are idle, and only in the home network of the SIM. The 24 hours start
+ * again whenever the code is sent, for example by the user, even if the query fails. All functions
+ * must be called from the GUI thread.
  */
 class DailyAsking : public QObject
 {
@@ -25,24 +26,24 @@ class DailyAsking : public QObject
 public:
     static const int HOURS = 24;
 
-    /// All arguments must outlive this object. If `settings` is null, nothing is ever asked.
+    /// All arguments must outlive this object. If `settings` is null, the balance is never queried.
     DailyAsking(CommandMonitor *monitor, const DeviceWatcher *device, DashboardSettings *settings,
                 QObject *parent = nullptr);
 
-    /// Sets the code of the balance. If it is empty, nothing is asked.
+    /// Sets the code that queries the balance. If the code is empty, the balance is not queried.
     void setCode(const QString &code);
-    /// Sets the function that returns false if a code would disturb the user or does not belong to
-    /// the operator of the SIM.
+    /// Sets the function that returns false if sending the balance code would disturb the user, or
+    /// if this code does not belong to the operator of the SIM.
     void setRule(const std::function<bool()> &mayAsk) { m_mayAsk = mayAsk; }
     /// Sets the function that returns the key of the SIM with this IMSI.
     void setSimKey(const std::function<QString(const QString &)> &key) { m_simKey = key; }
     /// Replaces the clock.
     void setClock(const std::function<QDateTime()> &clock) { m_clock = clock; }
-    /// Forgets when each SIM was asked, except that the current SIM counts as asked now.
+    /// Deletes the times of all queries. The next query for the current SIM is due in 24 hours.
     void forget();
 
 public slots:
-    /// Asks if it is time to. Called regularly.
+    /// Queries the balance if a query is due and permitted. Called regularly.
     void look();
 
 private:

@@ -20,12 +20,12 @@ namespace
 
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
-const char DAMAGED[] = ".damaged-"; // followed by the date
+const char DAMAGED[] = ".damaged-"; // followed by the current date in the file name
 
-// The file of earlier versions, which contained only codes.
+// The file of earlier versions, which contained codes but no chains.
 const char EARLIER_FILE[] = "favourites.ini";
 const char EARLIER_GROUP[] = "favourites";
-const char EARLIER_NONE[] = "none"; // an empty list would have read like a missing one
+const char EARLIER_NONE[] = "none"; // stored instead of an empty list
 
 const CodeKind USUAL_KINDS[] = {CodeKind::Balance, CodeKind::Data, CodeKind::Menu, CodeKind::Packs,
                                 CodeKind::Roaming};
@@ -65,7 +65,7 @@ QString earlierFile(const QString &file)
     return QFileInfo(file).path() + QLatin1Char('/') + QLatin1String(EARLIER_FILE);
 }
 
-/// Returns the favourites of a network in the file of an earlier version.
+/// Converts the favourite codes of a network from the file of an earlier version.
 Chains::NetworkFavourites earlierFavourites(const QStringList &codes)
 {
     Chains::NetworkFavourites favourites;
@@ -242,7 +242,8 @@ void Favourites::read() const
         m_content = Chains::FavouriteFile::fromJson(content.toStdString());
 }
 
-/// Takes over the file of an earlier version, and removes it when its content is stored.
+/// Imports the file of an earlier version, and removes this file when its content has been stored
+/// in the new file.
 void Favourites::migrate() const
 {
     const QString earlier = earlierFile(m_file);
@@ -276,7 +277,8 @@ bool Favourites::write() const
            file.write(content) == content.size() && file.commit();
 }
 
-/// Keeps a damaged file under another name, because the next one lacks what could not be read.
+/// Renames a damaged file instead of replacing it, because the new file does not contain the
+/// entries that could not be read. Returns false if the file cannot be renamed.
 bool Favourites::setAside() const
 {
     const QString start =

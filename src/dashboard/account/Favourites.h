@@ -10,9 +10,9 @@ namespace Dashboard
 {
 
 /**
- * The favourite codes and the chains of each home network, in a file that only its user can read
- * (`docs/ussd.md` describes it). Of a favourite code, the program `ussd` reads the name, but the
- * dashboard shows the names and icons of the current codes.
+ * The favourite codes and the chains of each home network. They are stored in a file that only its
+ * owner can read; see `docs/ussd.md`. The names of favourite codes in this file are only used by
+ * the `ussd` program. The dashboard shows the names and icons of the current codes instead.
  */
 class Favourites : public QObject
 {
@@ -20,34 +20,38 @@ class Favourites : public QObject
 public:
     static const int MOST = 6;
 
-    /// An empty name keeps the favourites in memory.
+    /// If `file` is empty, the favourites are only kept in memory.
     explicit Favourites(const QString &file, QObject *parent = nullptr);
     /// Returns the file of the user who runs the program.
     static QString userFile();
 
-    /// Sets the home network, by its MCC and MNC.
+    /// Sets the home network whose favourites are used. `network` consists of its MCC and MNC.
     void setNetwork(const QString &network);
-    /// Returns the favourites among these codes and the chains. If the user has never selected
-    /// favourites, returns the codes that most subscribers need, and then the chains.
+    /// Returns the favourites that the user has selected from the given codes and the chains. If
+    /// the user has never selected favourites, returns the codes that most subscribers need,
+    /// followed by the chains. At most MOST favourites are returned.
     QList<NamedCode> among(const AccountCodes &codes) const;
-    /// Selects the favourites, in their order. Returns false if they cannot be stored.
+    /// Replaces the favourites with these ones, in this order. Returns false if they cannot be
+    /// stored.
     bool select(const QList<NamedCode> &favourites);
 
     /// Returns the chains of the home network.
     QList<NamedCode> chains() const;
-    /// Returns the chain with this name. A chain without steps means that there is none.
+    /// Returns the chain with this name, or a chain without steps if there is none.
     Chains::Chain chain(const QString &name) const;
     /// Returns true if neither a favourite code nor a chain has this name.
     bool isNameFree(const QString &name) const;
-    /// Returns true if the walk is kept under any name.
+    /// Returns true if there is a chain with the same code and steps, regardless of its name.
     bool isKept(const Chains::Chain &walk) const;
-    /// Keeps the chain, and makes it a favourite if there is room. Returns false if its name is in
-    /// use or if it cannot be stored.
+    /// Adds the chain, and makes it a favourite if there are fewer than MOST favourites. Returns
+    /// false if the chain is incomplete, its name is in use, or it cannot be stored.
     bool keep(const Chains::Chain &chain);
-    /// Returns false if there is no such chain, or if the new name is empty or in use.
+    /// Renames a chain. Returns false if there is no chain named `from`, if `to` is empty or in
+    /// use, or if the change cannot be stored.
     bool rename(const QString &from, const QString &to);
     bool remove(const QString &chain);
-    /// Forgets the favourites and chains of all networks, and removes the file.
+    /// Removes the favourites and chains of all networks, including the file and its damaged
+    /// copies.
     void removeAll();
 
 signals:

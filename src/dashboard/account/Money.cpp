@@ -11,7 +11,7 @@ namespace
 {
 
 const int MOST_DECIMALS = 4;
-const int MOST_DIGITS = 12; // before the decimal point
+const int MOST_DIGITS = 12; // the maximum number of digits before the decimal point
 
 bool isNumber(const QString &text)
 {

@@ -9,10 +9,10 @@ namespace Dashboard
 namespace
 {
 
-const int MOST_BLANKS = 2; // spaces between a number and its currency
+const int MOST_BLANKS = 2; // the maximum number of spaces between a number and its currency
 
-/// The role of an amount in the reply. For a Rival, the reply contains a word for the balance, but
-/// also unknown words.
+/// The role of an amount in the reply. A Rival is preceded by a word for the balance, but there are
+/// also unknown words around it.
 enum class Role { Balance, Rival, Possible, Unknown, Other };
 
 /** A number with a currency, and its role according to the words around it. */

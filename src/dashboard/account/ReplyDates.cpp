@@ -64,8 +64,8 @@ QDate checkedDate(int year, int month, int day)
     return year >= FIRST_YEAR && year <= LAST_YEAR ? QDate(year, month, day) : QDate();
 }
 
-/// Returns the date of a numeric format: with the year first, with points, or with slashes or
-/// hyphens.
+/// Returns the date in a numeric format such as 2027-12-31, 31.12.2027 or 12/31/2027. Returns an
+/// invalid date if the order of day and month is ambiguous.
 QDate dateOfDigits(const QRegularExpressionMatch &match)
 {
     const int first = match.captured(1).toInt();

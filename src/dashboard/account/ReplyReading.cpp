@@ -13,8 +13,8 @@ namespace Dashboard
 namespace
 {
 
-const int FEWEST_DIGITS = 7; // of a phone number that includes the country code
-const int MOST_DIGITS = 15;  // ITU-T E.164
+const int FEWEST_DIGITS = 7; // the minimum for a phone number with its country code
+const int MOST_DIGITS = 15;  // the maximum according to ITU-T E.164
 
 QString digitsOf(const QString &text)
 {

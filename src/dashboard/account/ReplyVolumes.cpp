@@ -42,7 +42,7 @@ qint64 unitOf(const QString &name)
     return 0;
 }
 
-/// Returns the pattern of a unit, which only matches at the offset that the search starts at.
+/// Returns a pattern that matches a unit only at the offset at which the search starts.
 QString unitPattern()
 {
     QString names;

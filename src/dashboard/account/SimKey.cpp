@@ -27,7 +27,8 @@ QByteArray newSalt()
     return QByteArray(reinterpret_cast<const char *>(words), int(sizeof(words)));
 }
 
-/// Stores a new salt, unless another process has stored its salt in the meantime.
+/// Stores a new salt, unless another process has stored a salt in the meantime. Returns true if the
+/// file exists afterwards.
 bool writeSalt(const QString &path)
 {
     const QString temporary = path + QString::fromLatin1(".%1").arg(getpid());

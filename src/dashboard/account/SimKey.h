@@ -15,12 +15,13 @@ namespace Dashboard
  * its owner can read.
  */
 QString simKey(const QString &imsi, const QString &folder);
-/// Like the function above, with the data folder of the user who runs the program.
+/// Like the function above, but uses the data folder of the user who runs the program.
 QString simKey(const QString &imsi);
 /// Removes the random number, so that the keys of all SIMs change. The entries with the former keys
-/// must be removed as well, because they can no longer be found.
+/// must be removed as well, because they can no longer be found. Returns false if the random number
+/// cannot be removed.
 bool forgetSimKeys(const QString &folder);
-/// Uses the folder of the user who runs the program.
+/// Like the function above, but uses the data folder of the user who runs the program.
 bool forgetSimKeys();
 
 } // namespace Dashboard

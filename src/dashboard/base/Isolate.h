@@ -16,8 +16,9 @@ inline QString isolated(const QString &codeOrNumber)
     return QChar(0x2066) + codeOrNumber + QChar(0x2069);
 }
 
-/// Returns the words between the isolates U+2068 and U+2069, so that their direction follows their
-/// own first letter, whatever the language of the sentence is.
+/// Returns the words enclosed in the direction isolates U+2068 and U+2069, so that their direction
+/// depends on their own first letter and not on the sentence that contains them. Returns an empty
+/// string unchanged.
 inline QString isolatedWords(const QString &words)
 {
     return words.isEmpty() ? words : QChar(0x2068) + words + QChar(0x2069);

@@ -7,8 +7,8 @@
 namespace Dashboard
 {
 
-/// Replaces the file with one that only its user can read. Returns an empty string, or the system's
-/// error message if the file stays as it was.
+/// Replaces the file with a new one that only its owner can read. Returns an empty string on
+/// success. Otherwise, leaves the file unchanged and returns the system's error message.
 QString writePrivateFile(const QString &file, const QByteArray &content);
 
 } // namespace Dashboard

@@ -15,12 +15,13 @@ namespace
 
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
-// The result codes of SQLite for a file that cannot be understood.
+// The result codes of SQLite for a file that is damaged or is not a database.
 const char CORRUPT[] = "11";
 const char NOT_A_DATABASE[] = "26";
 const int UNKNOWN_VERSION = -1;
 
-// Deleted rows are overwritten. A second process waits for the first.
+// Overwrites deleted rows, so that they cannot be restored. Waits up to 2000 ms if another process
+// has locked the file.
 const char *const SETTINGS[] = {"PRAGMA secure_delete = ON", "PRAGMA busy_timeout = 2000",
                                 "PRAGMA synchronous = FULL"};
 
@@ -30,7 +31,7 @@ QString newConnectionName()
     return QString::fromLatin1("user-database-%1").arg(last.fetchAndAddOrdered(1));
 }
 
-/// Creates the file before SQLite does, so that nobody else can ever read it.
+/// Creates the file before SQLite opens it, so that other users cannot read it at any time.
 bool makePrivateFile(const QString &path)
 {
     const QString folder = QFileInfo(path).path();
@@ -51,7 +52,8 @@ QString nameForDamaged(const QString &file)
     return name;
 }
 
-/// Returns the value to bind. A null string stands for an empty one; only an invalid value is NULL.
+/// Returns the value to bind. A null string is replaced with an empty one, because it would be
+/// stored as NULL.
 QVariant bound(const QVariant &value)
 {
     const bool isNullString = value.userType() == QMetaType::QString && value.toString().isNull();
@@ -95,7 +97,8 @@ bool UserDatabase::open()
     return false;
 }
 
-/// Brings the tables up to date. Returns false if the file is damaged or of a later version.
+/// Updates the tables to the current version. Returns false if this fails, or if the file was
+/// written by a later version.
 bool UserDatabase::prepare()
 {
     QSqlQuery query(QSqlDatabase::database(m_connection));
@@ -107,7 +110,8 @@ bool UserDatabase::prepare()
            (found == m_migrations.size() || migrate());
 }
 
-/// Returns the version of the schema, which is 0 for a new file.
+/// Returns the version of the schema, which is 0 for a new file. Returns UNKNOWN_VERSION if the
+/// version cannot be read.
 int UserDatabase::version(QSqlQuery &query)
 {
     const bool isRead = query.exec(QLatin1String("PRAGMA user_version")) && query.next();
@@ -118,8 +122,8 @@ int UserDatabase::version(QSqlQuery &query)
     return result;
 }
 
-/// Carries out the missing steps. The version is read again, because another process may have
-/// migrated the file before this one got the lock.
+/// Executes the missing migration steps. Reads the version again, because another process may have
+/// migrated the file before this process acquired the lock.
 bool UserDatabase::migrate()
 {
     return inTransaction([this] {
@@ -139,7 +143,7 @@ bool UserDatabase::migrate()
     });
 }
 
-/// Remembers that the file is damaged. Always returns false.
+/// Records whether the error means that the file is damaged. Always returns false.
 bool UserDatabase::handleError(const QSqlQuery &query)
 {
     const QString code = query.lastError().nativeErrorCode();
@@ -147,7 +151,7 @@ bool UserDatabase::handleError(const QSqlQuery &query)
     return false;
 }
 
-/// Renames a damaged file. Returns false if the file is not damaged.
+/// Renames a damaged file. Returns false if the file is not damaged or cannot be renamed.
 bool UserDatabase::setAside()
 {
     if (!m_isDamaged || isInMemory())
@@ -183,8 +187,8 @@ bool UserDatabase::repairing(const std::function<bool()> &step)
     return step() || (setAside() && isOpen() && step());
 }
 
-// The lock of a writer is needed from the start, because another process may write at the same
-// time.
+// Acquires the write lock at the start of the transaction, because another process may write to the
+// file at the same time.
 bool UserDatabase::inTransaction(const std::function<bool()> &step)
 {
     if (!run("BEGIN IMMEDIATE"))
@@ -223,7 +227,8 @@ bool UserDatabase::readRows(const char *statement, const QVariantList &values,
     return query.lastError().type() == QSqlError::NoError || handleError(query);
 }
 
-/// Also removes the damaged files, because they may contain entries.
+/// Removes all files whose names start with the name of the database. This includes renamed damaged
+/// files, which may contain entries.
 bool UserDatabase::removeAll()
 {
     close();

@@ -13,9 +13,9 @@ namespace Dashboard
 {
 
 /**
- * An SQLite file that only its user can read, or a database in memory. The file is opened by the
- * first call that needs it. A damaged file is renamed, and a new one takes its place. A file of a
- * later version is neither read nor changed.
+ * An SQLite database in a file that only its owner can read, or in memory. The file is opened when
+ * it is first needed. A damaged file is renamed and replaced with a new one. A file that was
+ * written by a later version of the program is neither read nor changed.
  */
 class UserDatabase
 {
@@ -25,34 +25,38 @@ public:
     UserDatabase &operator=(const UserDatabase &) = delete;
 
     bool isInMemory() const { return m_file.isEmpty(); }
-    /// Removes the content, and the file with its journal and its damaged versions.
+    /// Closes the database and removes its file, the journal and renamed damaged files. Returns
+    /// false if a file cannot be removed.
     bool removeAll();
-    /// Returns the new name of a damaged file since the last call, or an empty string.
+    /// Returns the new name of the damaged file that was renamed since the last call, or an empty
+    /// string if there is none.
     QString takeDamagedFile();
-    /// Returns true if the file was written by a later version.
+    /// Returns true if the file was written by a later version of the program.
     bool isOfLaterVersion() const { return m_isOfLaterVersion; }
 
 protected:
-    /// The statements that lead from one version of the schema to the next. A later version appends
-    /// to this list and never changes an earlier step.
+    /// For each version of the schema, the statements that create it from the previous version.
+    /// New versions must be appended. Existing elements must not be changed.
     using Migrations = QList<QList<const char *>>;
 
-    /// An empty name stands for a database in memory. `migrations` must outlive the object.
+    /// If `file` is empty, the database is kept in memory. `migrations` must outlive this object.
     UserDatabase(const QString &file, const Migrations &migrations);
 
-    /// Returns false if there is certainly no content, so that a program without content does not
-    /// load the database driver.
+    /// Returns false if the database is certainly empty. In this case, the caller does not have to
+    /// open it, so that the database driver is not loaded.
     bool isThere() const;
     /// Opens the database if necessary. Returns false if it cannot be used.
     bool isOpen();
-    /// Carries out the step. If the file turns out to be damaged, repeats the step in a new file.
+    /// Executes the step. If the file proves to be damaged, replaces it and repeats the step.
+    /// Returns the result of the step, or false if the database cannot be used.
     bool repairing(const std::function<bool()> &step);
-    /// Carries out the step in a transaction, which the step rolls back by returning false.
+    /// Executes the step in a transaction. If the step returns false, the transaction is rolled
+    /// back. Returns true if the transaction has been committed.
     bool inTransaction(const std::function<bool()> &step);
-    /// Carries out a statement. The database must be open.
+    /// Executes the statement. Returns false if it fails. The database must be open.
     bool run(const char *statement, const QVariantList &values = {}, QSqlQuery *query = nullptr);
-    /// Calls the function for each row. The function returns false to stop, and the call then
-    /// returns false as well. The database must be open.
+    /// Calls the function for each row of the result. If the function returns false, stops and also
+    /// returns false. Returns false if the rows cannot be read. The database must be open.
     bool readRows(const char *statement, const QVariantList &values,
                   const std::function<bool(const QSqlQuery &)> &use);
 
@@ -66,7 +70,7 @@ private:
     void close();
 
     const QString m_file;
-    const QString m_connection; // the name of the connection
+    const QString m_connection; // the name of the QSqlDatabase connection
     const Migrations &m_migrations;
     QString m_damagedFile;
     bool m_isDamaged = false;

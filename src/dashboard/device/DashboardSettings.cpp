@@ -32,7 +32,8 @@ const char MODES_BEFORE[] = "modes-before/";
 const char *const THEMES[] = {"system", "light", "dark"};
 const int TEXT_SIZES[] = {100, 125, 150, 200}; // per cent
 
-/// Returns true if the string is a decimal number with at most one point, for example "5.00".
+/// Returns true if the string is a decimal number with at most one decimal point, for example
+/// "5.00".
 bool isAmount(const QString &text)
 {
     const QStringList parts = text.split(QLatin1Char('.'));

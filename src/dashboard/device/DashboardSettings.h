@@ -62,16 +62,17 @@ public:
     /// Returns true if the user has finished or skipped the first run.
     bool isFirstRunDone() const; // false by default
     void setFirstRunDone(bool isDone);
-    /// Returns true if the dashboard may ask for the balance once a day.
+    /// Returns true if the dashboard may query the balance once a day.
     bool asksDaily() const; // false by default
     void setAsksDaily(bool asks);
-    /// Returns when the balance of the SIM was asked most recently. `sim` is its key, see SimKey.h.
+    /// Returns the time of the most recent balance query for the SIM, or an invalid time if there
+    /// is none. `sim` is the key of the SIM; see SimKey.h.
     QDateTime lastAsked(const QString &sim) const;
     void setLastAsked(const QString &sim, const QDateTime &time);
-    /// Forgets when the balance of every SIM was asked.
+    /// Deletes the times of the balance queries of all SIMs.
     void forgetLastAsked();
-    /// Returns the setting that the modem had before the dashboard changed it, or an empty string;
-    /// see ModeChoice.
+    /// Returns the network modes that the modem used before the dashboard changed them; see
+    /// ModeChoice. Returns an empty string if the dashboard has not changed them.
     QString modesBefore(const QString &equipmentId) const;
     void setModesBefore(const QString &equipmentId, const QString &word);
     QByteArray geometry() const; // the geometry of the main window

@@ -25,7 +25,7 @@ struct DeviceStatus {
     bool waitsForTurn = false;      // a request is waiting for another program of the same user
     bool isRoaming = false;         // registered with a network that is not the SIM's own
     QString equipmentId;            // identifier of the current modem; empty if there is none
-    TKSV_ModesInfo modes = {};      // the generations of networks that the modem may use
+    TKSV_ModesInfo modes = {};      // the network generations that the modem may use
 
     bool operator==(const DeviceStatus &other) const;
     bool operator!=(const DeviceStatus &other) const { return !(*this == other); }

@@ -11,7 +11,7 @@ struct DeviceChoice;
 /** Waits until the device has reached a certain state. */
 struct DeviceWait {
     const DeviceWatcher &device;
-    const SignalWatcher &interruption; // a signal ends every wait
+    const SignalWatcher &interruption; // a signal such as SIGINT ends every wait
     int limit;                         // the time limit in milliseconds
 
     /// Waits until the device is ready or cannot become ready without user intervention. With the

@@ -48,7 +48,7 @@ signals:
     void lost();
 
 private:
-    // Both call-backs run on a thread of the SDK.
+    // Both call-backs are called from a thread of the SDK.
     static void onInfoChanged(void *watcher);
     static unsigned char onDeviceEvent(int event, void *data);
     void refreshSession();

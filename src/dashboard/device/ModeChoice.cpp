@@ -13,7 +13,7 @@ namespace
 
 const QLatin1Char SEPARATOR(',');
 
-/// Returns the setting as it is stored, for example "4,0".
+/// Returns the network modes as the string to store, for example "4,0".
 QString wordOf(const TKSV_Modes &modes)
 {
     return QString::number(modes.allowed) + SEPARATOR + QString::number(modes.preferred);
@@ -64,12 +64,13 @@ void ModeChoice::restore()
 
 void ModeChoice::change(const TKSV_Modes &modes)
 {
-    m_hasFailed = false; // a second failure is reported, too
+    m_hasFailed = false; // so that a second failure is also reported
     if (TKSV_Device_SetModes(&modes) != 0)
         emit failed();
 }
 
-/// Forgets the former setting when the modem has it again.
+/// Deletes the former setting when it has been restored. Emits failed() if the modem has not
+/// accepted a setting.
 void ModeChoice::look()
 {
     const TKSV_ModesInfo &modes = m_device->status().modes;
@@ -83,7 +84,7 @@ void ModeChoice::look()
     emit changed();
 }
 
-/// A demonstration stores nothing, and it begins with its own setting.
+/// Returns the former setting. In a demonstration, it is only kept in memory.
 QString ModeChoice::before() const
 {
     const DeviceStatus &status = m_device->status();

@@ -12,9 +12,9 @@ class DashboardSettings;
 class DeviceWatcher;
 
 /**
- * Allows a modem that is held on 4G to use 2G and 3G as well, and restores its former setting.
- * Both happen only if the user requests it. The former setting is stored for each modem. All
- * functions must be called from the GUI thread.
+ * At the user's request, allows a modem that is restricted to 4G to use 2G and 3G as well, or
+ * restores its former setting. The former setting is stored for each modem. All functions must be
+ * called from the GUI thread.
  */
 class ModeChoice : public QObject
 {
@@ -24,9 +24,9 @@ public:
     /// in memory.
     ModeChoice(const DeviceWatcher *device, DashboardSettings *settings, QObject *parent = nullptr);
 
-    /// Returns true if the modem is held on 4G or later, and can use 2G or 3G as well.
+    /// Returns true if the modem is restricted to 4G or later, but also supports 2G or 3G.
     bool canAllowOlder() const;
-    /// Returns true if the modem has another setting than before allowOlder().
+    /// Returns true if the modem's setting differs from the one before allowOlder().
     bool canRestore() const;
 
 public slots:
@@ -34,7 +34,7 @@ public slots:
     void restore();
 
 signals:
-    /// Emitted when one of the return values may have changed.
+    /// Emitted when the return value of canAllowOlder() or canRestore() may have changed.
     void changed();
     /// Emitted when the modem has not accepted a setting.
     void failed();
@@ -47,7 +47,7 @@ private:
 
     const DeviceWatcher *const m_device;
     DashboardSettings *const m_settings;
-    QString m_before; // the former setting, if it is not stored
+    QString m_before; // the former setting if it is only kept in memory
     bool m_isRestoring = false;
     bool m_hasFailed = false;
 };

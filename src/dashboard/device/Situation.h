@@ -72,7 +72,7 @@ struct Instruction {
 };
 
 /// Returns the situation for this status. `chosenModem` is the name of the modem that the user has
-/// selected, or empty if it is unknown.
+/// selected, or an empty string if this name is unknown.
 Situation situationOf(const DeviceStatus &status, bool areCodesKnown, const QString &chosenModem);
 
 /// Returns the text for the button of the remedy.

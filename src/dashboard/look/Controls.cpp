@@ -15,7 +15,7 @@ namespace
 {
 
 const int BUTTON_ICON = 18; // in pixels at 100 % text size
-const int ICON_GAP = 4;     // added to the gap between icon and text of the style
+const int ICON_GAP = 4;     // added to the style's gap between icon and text
 const int ICON_BUTTON = 40;
 const char ICON_BUTTON_KIND[] = "iconbtn";
 

@@ -105,7 +105,7 @@ class IconDisc : public QFrame
 public:
     explicit IconDisc(QWidget *parent = nullptr);
 
-    /// Sets the icon. `name` is a string literal.
+    /// Sets the icon. `name` must be a string literal.
     void setIcon(const char *name, Tone tone);
 
 private:
@@ -185,7 +185,7 @@ class MenuButton : public QPushButton
 public:
     explicit MenuButton(QWidget *parent = nullptr);
 
-    /// Sets what the value is about. Screen readers report it before the value.
+    /// Sets the title of the value, which screen readers report before the value.
     void setTitle(const QString &title);
     void setValue(const QString &value);
 

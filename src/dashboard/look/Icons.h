@@ -21,8 +21,9 @@ QIcon icon(const char *name, Token token, Token whenOn);
 /// Returns the icon of the program, in the sizes that window managers show.
 QIcon applicationIcon();
 
-/// Returns a picture of the icon for a place that cannot hold an icon. It does not follow the
-/// theme. `size` is in device-independent pixels.
+/// Returns the icon as a pixmap, for purposes that do not support icons. The pixmap does not adapt
+/// to changes of the theme. `size` is in device-independent pixels. `widget` determines the device
+/// pixel ratio.
 QPixmap iconPixmap(const char *name, Token token, int size, const QWidget *widget);
 
 } // namespace Dashboard

@@ -59,8 +59,8 @@ Look::Look(QObject *parent) : QObject(parent)
 {
     openResources();
     connect(qApp, &QGuiApplication::layoutDirectionChanged, this, &Look::update);
-    // By name, since Qt 6 deprecates the signal in favour of an event, which Qt 5 does not send
-    // here.
+    // Uses the string-based syntax, because the signal is deprecated in Qt 6. The event that
+    // replaces it does not arrive here in Qt 5.
     connect(qApp, SIGNAL(fontChanged(QFont)), SLOT(update()));
 }
 
@@ -102,7 +102,8 @@ int Look::px(int at100Percent) const
 
 int Look::em() const
 {
-    // Every size depends on this value, and finding the font takes much longer than comparing it.
+    // Caches the value, because it is needed for every size, and resolving a font takes much longer
+    // than comparing two fonts.
     const QFont font = QApplication::font();
     if (m_em == 0 || font != m_emFont) {
         m_emFont = font;

@@ -24,7 +24,7 @@ public:
     /// Returns the only instance, which belongs to the current QApplication.
     static Look &instance();
 
-    /// Sets the palette and the style sheet of the application. From now on, they are updated when
+    /// Sets the palette and the style sheet of the application. Afterwards, they are updated when
     /// the theme, the layout direction or the application font changes.
     void start();
 
@@ -35,7 +35,7 @@ public:
     void setSystemShade(Shade shade);
     QColor color(Token token) const { return tokenColor(token, shade()); }
 
-    /// Returns the size in pixels, as the function px() does.
+    /// Returns the size in pixels, scaled with the application font.
     int px(int at100Percent) const;
     /// Returns the size of the application font in pixels.
     int em() const;
@@ -61,7 +61,7 @@ private:
     Shade m_systemShade = Shade::Light;
     bool m_isStarted = false;
     bool m_reducesMotion = false;
-    mutable QFont m_emFont; // the font of m_em
+    mutable QFont m_emFont; // the font for which m_em was computed
     mutable int m_em = 0;   // 0 means that it is not known yet
     QString m_sheet;
 };

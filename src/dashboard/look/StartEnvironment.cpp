@@ -10,8 +10,8 @@ namespace
 {
 
 // The variables that determine how Qt loads OpenGL on X11 and on Wayland. The value "none" prevents
-// this. On Wayland, "none" is not a special value, but any name that is not the name of a plug-in
-// has the same effect.
+// Qt from loading it. On Wayland, "none" is not a special value, but any name that is not the name
+// of a plug-in has the same effect.
 const char *const OPENGL_CHOICES[] = {"QT_XCB_GL_INTEGRATION",
                                       "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION"};
 

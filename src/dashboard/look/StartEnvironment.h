@@ -21,8 +21,8 @@ public:
     void set(const char *variable, const QByteArray &value);
 
     /// Prevents Qt from loading OpenGL, which this program does not use. Loading OpenGL would take
-    /// a large part of the start time and half of the memory. Variables that the user has set are
-    /// not changed.
+    /// a large part of the start-up time and half of the memory. Variables that the user has set
+    /// are not changed.
     void leaveOpenGlOut();
 
     /// Restores the previous values of all variables. Must be called after the QApplication has

@@ -15,7 +15,7 @@ struct Entry {
     QRgb dark;
 };
 
-// The order is that of the enumeration Token.
+// The rows are in the order of the Token enumeration.
 const Entry TABLE[] = {
     {Token::Bg, "bg", 0xF3F5F9, 0x0E131A},
     {Token::Surface, "surface", 0xFFFFFF, 0x171F29},

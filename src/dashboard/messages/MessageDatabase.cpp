@@ -24,7 +24,8 @@ const QList<QList<const char *>> &migrations()
 
 const char COLUMNS[] = "SELECT id, received, sender, text, unread FROM message ";
 
-/// Returns the text that searches compare. SQLite itself ignores the case of ASCII letters only.
+/// Returns the text in the form that is used for searching. SQLite would ignore the case of ASCII
+/// letters only.
 QString folded(const QString &text)
 {
     return text.toCaseFolded();

@@ -7,7 +7,7 @@
 namespace Dashboard
 {
 
-/** The messages of all SIMs. Each change is one transaction. */
+/** The messages of all SIMs. Each change is a separate transaction. */
 class MessageDatabase : public UserDatabase
 {
 public:

@@ -76,7 +76,8 @@ Message MessageStore::add(const QString &sender, const QString &text, const QDat
     return message;
 }
 
-/// Stores the message without the numbers that nobody else must find in the file.
+/// Stores the message with its long numbers shortened, and keeps the complete text in memory.
+/// Returns the identifier of the message, or 0 if it cannot be stored.
 qint64 MessageStore::store(const Message &message)
 {
     Message stored = message;
@@ -94,7 +95,7 @@ Message MessageStore::complete(Message message) const
     return message;
 }
 
-/// Gives up the file, which cannot be written.
+/// From now on, keeps messages in memory, because the file cannot be written.
 void MessageStore::keepInMemory()
 {
     if (m_database->isInMemory())
@@ -176,7 +177,7 @@ void MessageStore::endWaiting()
 void MessageStore::removeAll()
 {
     const bool isStoring = !m_database->isInMemory();
-    m_database.reset(new MessageDatabase(QString())); // closes the file
+    m_database.reset(new MessageDatabase(QString())); // closes the file before it is removed
     const bool isRemoved = MessageDatabase(m_file).removeAll();
     begin(isStoring ? m_file : QString());
     if (!isRemoved)

@@ -16,9 +16,9 @@ class MessageDatabase;
 
 /**
  * Keeps the network-initiated messages of each SIM for 12 months. If messages must not be stored,
- * or if they cannot be stored, they are kept in memory until the program ends. The file contains
- * the messages without long numbers, which are in memory only; see withoutNumbers(). All functions
- * must be called from the GUI thread.
+ * or if they cannot be stored, they are kept in memory until the program ends. In the file, long
+ * numbers are shortened; see withoutNumbers(). The complete texts are only kept in memory. All
+ * functions must be called from the GUI thread.
  */
 class MessageStore : public QObject
 {

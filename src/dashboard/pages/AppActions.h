@@ -16,11 +16,11 @@ public:
     virtual ~AppActions();
 
     virtual void showPage(PageId page) = 0;
-    /// Opens the page Codes and sends the code.
+    /// Opens the Codes page and sends the code.
     virtual void sendCode(const QString &code) = 0;
-    /// Shows the page of codes and runs the chain.
+    /// Opens the Codes page and runs the chain with this name.
     virtual void runChain(const QString &name) = 0;
-    /// Shows the page of codes and types the code without sending it.
+    /// Opens the Codes page and enters the code into the command field without sending it.
     virtual void typeCode(const QString &code) = 0;
     /// Opens the dialog, window or field in which the user can top up the account.
     virtual void topUp() = 0;

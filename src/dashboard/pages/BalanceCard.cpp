@@ -15,9 +15,9 @@ namespace Dashboard
 namespace
 {
 
-const int OLD_DAYS = 7;      // the card shows the age of the balance from this number of days on
+const int OLD_DAYS = 7;      // days; the card shows the age of the balance from this age on
 const int WIDE_HEIGHT = 196; // in pixels at 100 % text size
-const int REPLY_LINES = 3;   // for a reply that does not contain a balance
+const int REPLY_LINES = 3;   // the maximum for a reply that does not contain a balance
 
 QString firstLines(const QString &text)
 {

@@ -255,7 +255,7 @@ void BalanceChart::show(const QList<BalanceDay> &days, const QDate &today)
     for (const BalanceDay &day : days)
         spent.decimals = qMax(spent.decimals, day.last.decimals);
     Money topped = spent;
-    // The changes of the first day are ignored, because they refer to a balance before the chart.
+    // Ignores the changes on the first day, because they refer to a balance before the chart.
     for (int i = 1; i < days.size(); ++i) {
         spent.units += days.at(i).falls;
         topped.units += days.at(i).rises;

@@ -16,7 +16,7 @@ namespace Dashboard
 namespace
 {
 
-const int LEAST_WIDTH = 300; // in pixels, at 100 %
+const int LEAST_WIDTH = 300; // in pixels at 100 % text size
 const int LONGEST_NAME = 40; // characters
 
 } // namespace

@@ -13,12 +13,13 @@ class QPushButton;
 namespace Dashboard
 {
 
-/** Asks for the name of a chain. */
+/** The dialog in which the user enters the name of a chain. */
 class ChainDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// `walk` shows what the chain sends. `isFree` returns true if the chain may have this name.
+    /// The dialog displays `walk`, which describes the code and the answers of the chain. `isFree`
+    /// returns true if the chain may have the given name.
     ChainDialog(const QString &walk, const std::function<bool(const QString &)> &isFree,
                 QWidget *parent = nullptr);
 

@@ -36,7 +36,7 @@ namespace
 
 const double LARGEST_SCALE_OF_A_FRAME = 1.3; // the frame of the general window has a fixed size
 const int CHOICE_KEYS = 10;
-const int PAYMENT_BUTTONS = 2; // the last preset buttons require a number
+const int PAYMENT_BUTTONS = 2; // the number of preset buttons that require a number
 
 /// Returns the complete name of a preset button, even if the button shows an elided name.
 QString fullName(const QPushButton *button)
@@ -46,7 +46,7 @@ QString fullName(const QPushButton *button)
     return isElided && isPlain && !button->toolTip().isEmpty() ? button->toolTip() : button->text();
 }
 
-/// Returns what the walk sends, such as "*123# › 2 Internet › 1 1 GB".
+/// Returns the code and the choices of the walk, such as "*123# › 2 Internet › 1 1 GB".
 QString walkText(const Chains::Chain &walk)
 {
     QString text = isolated(QString::fromStdString(walk.code));
@@ -109,7 +109,8 @@ void CodesPage::makeNarrowButtons()
     connect(m_topUpButton, &QPushButton::clicked, this, &CodesPage::showTopUpSheet);
     m_narrowRow->setContentsMargins(0, 0, 0, 0);
     setSpacing(m_narrowRow, 8);
-    // Right to left, the style sheet would put icon and text of a wider button far apart.
+    // The buttons are not stretched. In a right-to-left layout, the style sheet would place icon
+    // and text at opposite ends of a wider button.
     m_narrowRow->addWidget(m_codesButton, 0, Qt::AlignLeading);
     m_narrowRow->addWidget(m_topUpButton, 0, Qt::AlignLeading);
     m_narrowRow->addStretch();
@@ -136,7 +137,7 @@ void CodesPage::resizeEvent(QResizeEvent *event)
 void CodesPage::makeLayout()
 {
     QVBoxLayout *inside = new QVBoxLayout(m_card);
-    inside->setContentsMargins(1, 1, 1, 1); // the border of the card
+    inside->setContentsMargins(1, 1, 1, 1); // leaves space for the border of the card
     inside->setSpacing(0);
     inside->addWidget(m_strip);
     inside->addWidget(m_area, 1);
@@ -239,7 +240,7 @@ QList<QPushButton *> CodesPage::presets() const
         QLatin1String("USSDUIPlugin_AdvancedDialog_PreButton"));
 }
 
-// ---- what goes on --------------------------------------------------------------------------
+// ---- commands ------------------------------------------------------------------------------
 
 void CodesPage::followStrip()
 {
@@ -332,7 +333,7 @@ void CodesPage::runChain(const QString &name)
         m_parts.chains->run(chain);
 }
 
-/// Shows the complete reason, which the strip may have elided.
+/// Shows the complete reason why the chain has stopped, because the strip may elide it.
 void CodesPage::showStop(const ChainState &chain)
 {
     QMessageBox *box = new QMessageBox(QMessageBox::Information, chain.title, chain.text,
@@ -344,7 +345,8 @@ void CodesPage::showStop(const ChainState &chain)
     box->open();
 }
 
-/// Asks for the name under which to keep the walk. The suggested name is that of the last choice.
+/// Opens the dialog in which the user enters a name. When the user accepts the dialog, keeps the
+/// walk as a chain with this name. The suggested name is the text of the last choice.
 void CodesPage::keepWalk()
 {
     const Chains::Chain walk = m_parts.walks->walk();
@@ -373,8 +375,9 @@ QList<CodeName> CodesPage::chainNames() const
     return names;
 }
 
-/// Shows every word about the failure. The dialog does not block, because the device may be lost
-/// while it is open.
+/// Shows the complete description of the failure, or the reason why a chain has stopped. The
+/// function does not wait until the dialog is closed, because the device may be lost in the
+/// meantime.
 void CodesPage::showDetails()
 {
     if (m_parts.favourites && m_parts.chains->state().hasStopped())
@@ -550,7 +553,7 @@ void CodesPage::saveTranscript()
     dialog->open();
 }
 
-/// Only the user can read the file, because codes may contain PINs.
+/// Saves the transcript in a file that only its owner can read, because codes may contain PINs.
 void CodesPage::saveTo(const QString &file)
 {
     const QString error = writePrivateFile(file, general().transcript().toUtf8() + '\n');

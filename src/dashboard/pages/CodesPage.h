@@ -30,14 +30,14 @@ struct CodesParts {
     CommandMonitor *commands;
     CodeHistory *history;
     std::function<QList<CodeName>()> names; // the codes of the operator and of the user
-    ModeChoice *modes = nullptr;            // of the modem; null if the modem has no choice
+    ModeChoice *modes = nullptr;            // the network modes of the modem; may be null
     ChainRunner *chains = nullptr;
     WalkWatcher *walks = nullptr;
-    Favourites *favourites = nullptr; // may be null in tests; then, no chain is offered
+    Favourites *favourites = nullptr; // may be null in tests; chains are then not offered
 };
 
 /**
- * The page Codes, with the plug-in's general window and a strip with the state of the current
+ * The Codes page, with the plug-in's general window and a strip with the state of the current
  * command.
  */
 class CodesPage : public Page
@@ -69,26 +69,25 @@ public:
     QList<QAction *> shortcuts() const { return m_shortcuts; }
 
 public slots:
-    /// Sends the code. If the code contains hidden digits, lets the user enter them first, and
-    /// enters the code into the command field without sending it.
+    /// Sends the code. If the code contains hidden digits, it is not sent. Instead, the user enters
+    /// these digits in a dialog, and the complete code is entered into the command field.
     void useCode(const QString &code);
     /// Enters the code into the command field without sending it.
     void typeCode(const QString &code);
-    /// Runs the chain with this name, if a code can be sent now.
+    /// Runs the chain with this name. Does nothing if no code can be sent now.
     void runChain(const QString &name);
-    /// Cancels the command on its way, or ends the open menu.
+    /// Cancels the command in flight, or ends the open menu.
     void stop();
     void answerNumber(int position);
     void openHistory();
     void copyReply();
-    /// Opens the bar that finds words in the transcript.
+    /// Opens the bar in which the user can search the transcript.
     void find();
     /// Saves the transcript as plain text in a file that the user selects.
     void saveTranscript();
 
 signals:
-    /// Emitted when the user has pressed one of the page's shortcuts, so that the page must be
-    /// shown.
+    /// Emitted when the user has pressed one of the page's shortcuts. The page must then be shown.
     void wanted();
     void ownWindowRequested();
     void remedyChosen(Dashboard::Remedy remedy);

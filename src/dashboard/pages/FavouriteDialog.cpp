@@ -21,9 +21,9 @@ namespace
 
 const int CODE = Qt::UserRole;
 const int NAME = Qt::UserRole + 1;
-const int KEYS = Qt::UserRole + 2; // of a chain
+const int KEYS = Qt::UserRole + 2; // the keys of a chain; empty for a code
 const int EARLIER_NAME = Qt::UserRole + 3;
-const int LEAST_HEIGHT = 340; // of the dialog, in pixels at 100 %
+const int LEAST_HEIGHT = 340; // of the dialog, in pixels at 100 % text size
 const int LEAST_WIDTH = 320;
 
 bool isChecked(const QListWidgetItem *item)
@@ -95,7 +95,7 @@ void FavouriteDialog::makeButtons()
     column->addWidget(hint);
     column->addWidget(m_list, 1);
     column->addLayout(makeMoves());
-    QHBoxLayout *chains = buttonRow(); // beside the moves, they would be wider than a narrow window
+    QHBoxLayout *chains = buttonRow(); // a single row of four buttons would be too wide
     chains->addWidget(m_rename);
     chains->addWidget(m_remove);
     chains->addStretch(1);
@@ -148,8 +148,8 @@ void FavouriteDialog::move(int rows)
     m_list->setCurrentRow(target);
 }
 
-/// Disables the buttons and check boxes that cannot be used, for example because the first code
-/// cannot be moved up or the maximum number of favourites is selected.
+/// Enables or disables the buttons and check boxes. For example, the first code cannot be moved up,
+/// and no further code can be selected if the maximum number of favourites has been reached.
 void FavouriteDialog::look()
 {
     const int row = m_list->currentRow();

@@ -15,8 +15,9 @@ namespace Dashboard
 {
 
 /**
- * Selects the favourites among all codes and chains, and their order. A check mark selects a code.
- * Codes are moved with the mouse or with the buttons. Chains can be renamed and deleted.
+ * The dialog in which the user selects favourites from all codes and chains. The list contains a
+ * check box for each of them. The order can be changed with the mouse or with buttons. Chains can
+ * be renamed and deleted.
  */
 class FavouriteDialog : public QDialog
 {
@@ -29,7 +30,7 @@ public:
 
     /// Returns the selected codes and chains in their order.
     QList<NamedCode> selected() const;
-    /// Returns the new names of chains by their present names.
+    /// Returns the new names of the renamed chains, keyed by their previous names.
     QMap<QString, QString> renamed() const;
     /// Returns the names of the chains to delete.
     QStringList removed() const { return m_removed; }

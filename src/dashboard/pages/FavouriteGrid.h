@@ -11,8 +11,8 @@ namespace Dashboard
 {
 
 /**
- * A card for a favourite, with an icon, a name and a code. May also be the card that adds a
- * favourite.
+ * A card for a favourite, with an icon, a name and a code. It can also be the card with which the
+ * user adds a favourite.
  */
 class FavouriteButton : public QAbstractButton
 {
@@ -21,7 +21,7 @@ public:
     explicit FavouriteButton(QWidget *parent = nullptr);
 
     void setCode(const NamedCode &code);
-    /// Makes this the card that adds a favourite.
+    /// Makes this the card with which the user adds a favourite.
     void setAdds(const QString &text);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -47,7 +47,7 @@ class FavouriteGrid : public QWidget
 public:
     explicit FavouriteGrid(QWidget *parent = nullptr);
 
-    /// Shows the codes. If `mayAdd` is true, also shows the card that adds a favourite.
+    /// Shows the codes. If `mayAdd` is true, also shows the card for adding a favourite.
     void show(const QList<NamedCode> &codes, bool mayAdd);
     void setColumns(int columns);
 

@@ -22,7 +22,8 @@ namespace
 
 const int MOST_MATCHES = 1000;
 
-// The paper of the transcript is light in both themes.
+// These colours do not depend on the theme, because the background of the transcript is light in
+// both themes.
 const QRgb MATCH = qRgb(0xff, 0xe2, 0x8a);
 const QRgb CURRENT_MATCH = qRgb(0x1d, 0x4e, 0xd8);
 
@@ -49,7 +50,7 @@ FindBar::FindBar(const std::function<QTextEdit *()> &transcript, QWidget *parent
     setObjectName(QLatin1String("Dashboard_FindBar"));
     m_field->setObjectName(QLatin1String("Dashboard_FindField"));
     m_count->setObjectName(QLatin1String("Dashboard_FindCount"));
-    m_count->setMinimumWidth(1); // instead of the width of its text
+    m_count->setMinimumWidth(1); // otherwise, the text would determine the minimum width of the bar
     setStyleProperty(m_field, "empty", QLatin1String("true"));
     QHBoxLayout *buttons = new QHBoxLayout;
     setSpacing(buttons, 4);
@@ -89,7 +90,7 @@ void FindBar::setForm(Form form)
     m_rows->setDirection(form == Form::Narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
-// ---- open and closed -----------------------------------------------------------------------
+// ---- opening and closing -------------------------------------------------------------------
 
 void FindBar::open()
 {
@@ -190,7 +191,8 @@ void FindBar::highlight()
     m_followed->setExtraSelections(selections);
 }
 
-/// Scrolls without moving the text cursor, with which the user may have selected something.
+/// Scrolls to the current match without moving the text cursor, so that text that the user has
+/// selected stays selected.
 void FindBar::scrollToMatch()
 {
     if (m_matches.isEmpty())

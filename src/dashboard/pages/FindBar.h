@@ -19,8 +19,8 @@ namespace Dashboard
 {
 
 /**
- * Finds words in the transcript of the general window. All matches are highlighted. The transcript
- * itself and its text cursor stay as they are.
+ * The bar in which the user can search the transcript of the general window. All matches are
+ * highlighted. The transcript itself and its text cursor are not changed.
  */
 class FindBar : public QWidget
 {
@@ -33,15 +33,17 @@ public:
     void retranslate();
     /// In the narrow form, the buttons are below the field.
     void setForm(Form form);
-    /// Must be called when the transcript may be another one.
+    /// Must be called when the plug-in may have replaced the transcript.
     void follow();
 
 public slots:
     /// Shows the bar, with the focus in its field.
     void open();
-    /// Hides the bar and removes the highlight. The focus returns to where it was before.
+    /// Hides the bar and removes the highlights. If the bar has the focus, returns the focus to the
+    /// widget that had it before the bar was opened.
     void dismiss();
-    /// Selects the next or the previous match. After the last match comes the first.
+    /// Highlights the next or the previous match as the current one. The first match follows the
+    /// last one.
     void findNext() { step(1); }
     void findPrevious() { step(-1); }
 
@@ -68,7 +70,7 @@ private:
     QPushButton *m_next;
     QPushButton *m_close;
     QList<QTextCursor> m_matches;
-    int m_current = 0; // of the matches
+    int m_current = 0; // the index of the current match
 };
 
 } // namespace Dashboard

@@ -177,7 +177,8 @@ void GeneralArea::watchPresets()
         hidePresets();
 }
 
-/// Hides the preset buttons. The buttons in use are those that the plug-in has most recently shown.
+/// Hides the preset buttons and the field for their numbers. If the plug-in has shown new buttons
+/// since the last call, showPresets() will show only these buttons.
 void GeneralArea::hidePresets()
 {
     QList<QPointer<QWidget>> hidden;
@@ -191,7 +192,7 @@ void GeneralArea::hidePresets()
         return;
     for (const QPointer<QWidget> &part : m_hidden) {
         if (part && !qobject_cast<QPushButton *>(part.data()))
-            hidden << part; // the plug-in only shows buttons again, but not the other widgets
+            hidden << part; // the plug-in shows only the buttons again, but not the other widgets
     }
     m_hidden = hidden;
     general().widenHistory(); // otherwise, the empty columns would take up space

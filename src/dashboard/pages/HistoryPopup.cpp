@@ -21,7 +21,7 @@ namespace Dashboard
 namespace
 {
 
-const int CODE_ROLE = Qt::UserRole + 1;  // empty in the row that deletes the history
+const int CODE_ROLE = Qt::UserRole + 1;  // empty in the row that is shown instead of an empty list
 const int CHAIN_ROLE = Qt::UserRole + 2; // the name of a chain; otherwise empty
 const int COLUMNS = 3;                   // code, name, time
 const int MOST_ROWS = 8;
@@ -135,7 +135,7 @@ void HistoryPopup::onTextEdited(const QString &text)
         m_view->hide();
 }
 
-/// The completer computes the height from the rows alone.
+/// Increases the height by that of the footer, which the completer does not take into account.
 void HistoryPopup::makeRoomForFooter()
 {
     QRect place = m_view->geometry();
@@ -187,7 +187,7 @@ void HistoryPopup::addChains(const QString &start)
     }
 }
 
-/// Returns the first item of the row.
+/// Adds a row and returns its first item.
 QStandardItem *HistoryPopup::addRow(const QString &code, const QString &name, const QString &time)
 {
     QList<QStandardItem *> row;
@@ -249,7 +249,8 @@ bool HistoryPopup::onEditKey(int key)
     return false;
 }
 
-/// Moves between the last row and the button of the footer. Returns true if the key was used.
+/// Moves between the last row and the button of the footer. Returns true if the key has been
+/// handled.
 bool HistoryPopup::moveToButton(int key)
 {
     const int rows = m_model->rowCount();
@@ -266,9 +267,9 @@ bool HistoryPopup::moveToButton(int key)
     return true;
 }
 
-/// Lets Return send what the user has typed, unless the user has chosen a row of the list. The
-/// current row does not show this, because a list makes its first row the current one when it gets
-/// the focus.
+/// Makes Return send the text that the user has typed, unless the user has selected a row of the
+/// list. The current row is not sufficient to determine this, because a list makes its first row
+/// current when it receives the focus.
 bool HistoryPopup::onPopupKey(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

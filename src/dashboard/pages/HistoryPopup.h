@@ -20,9 +20,9 @@ class CodeHistory;
 class HistoryView;
 
 /**
- * The list below the code field, with the codes that the user has sent, the user's own codes, and
- * their names. The list opens on request, or when the user types the beginning of a code or name.
- * All functions must be called from the GUI thread.
+ * The list below the code field, with the codes that the user has sent, the codes that have names,
+ * and the chains. The list opens on request, or when the user types the beginning of a code or
+ * name. All functions must be called from the GUI thread.
  */
 class HistoryPopup : public QObject
 {
@@ -30,8 +30,8 @@ class HistoryPopup : public QObject
 public:
     using Names = std::function<QList<CodeName>()>;
 
-    /// The code of a chain is the string that shows what it sends. The arguments must stay valid as
-    /// long as this object exists.
+    /// For chains, CodeName::code contains the keys of the chain. `history` and all objects
+    /// that the functions use must outlive this object.
     HistoryPopup(CodeHistory *history, const Names &names, const Names &chains,
                  QObject *parent = nullptr);
 
@@ -49,7 +49,7 @@ public:
 
 signals:
     void chosen(const QString &code);
-    /// Emitted with the name of the chain.
+    /// Emitted with the name of the chain that the user has selected.
     void chainChosen(const QString &name);
 
 private:

@@ -18,9 +18,9 @@ namespace
 const int NAME_COLUMN = 1;
 const int TIME_COLUMN = 2;
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int FOOTER_HEIGHT = 37;
-const int ROOM_FOR_TIME = 340; // the width from which on the time is shown
+const int ROOM_FOR_TIME = 340; // the minimum width at which the times are shown
 
 } // namespace
 
@@ -81,8 +81,8 @@ void HistoryView::arrangeColumns()
     setColumnHidden(TIME_COLUMN, width() < px(ROOM_FOR_TIME));
 }
 
-/// Reserves the room of the footer. The base class resets the margins each time, and setting them
-/// resizes the viewport, which calls this function again.
+/// Reserves space for the footer after the base class has reset the margins. Setting the margins
+/// resizes the viewport and therefore calls this function recursively.
 void HistoryView::updateGeometries()
 {
     if (m_isUpdating)

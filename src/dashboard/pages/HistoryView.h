@@ -11,8 +11,8 @@ namespace Dashboard
 class ElidedLabel;
 
 /**
- * The list of the history with a footer that stays when the rows scroll. The footer contains a note
- * and the button that deletes the history.
+ * The list of the history with a footer that does not scroll. The footer contains a note and the
+ * button that deletes the history.
  */
 class HistoryView : public QTreeView
 {
@@ -20,10 +20,11 @@ class HistoryView : public QTreeView
 public:
     explicit HistoryView(QWidget *parent = nullptr);
 
-    /// Sets the texts of the footer. If `hasAction` is false, there is nothing to delete.
+    /// Sets the texts of the footer. If `hasAction` is false, hides the button, because there is
+    /// nothing to delete.
     void showFooter(const QString &note, const QString &action, bool hasAction);
     int footerHeight() const;
-    /// Gives the room that the first and the last column leave to the second column.
+    /// Stretches the second column to the width that the other columns do not need.
     void arrangeColumns();
     /// Marks the button as the current item, because a popup has no keyboard focus of its own.
     void setButtonCurrent(bool isCurrent);

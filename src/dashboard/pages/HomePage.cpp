@@ -70,7 +70,7 @@ HomePage::HomePage(const Parts &parts, QWidget *parent)
     setForm(Form::Wide);
 }
 
-// ---- building -----------------------------------------------------------------------------------
+// ---- construction -------------------------------------------------------------------------------
 
 void HomePage::makeAccount()
 {
@@ -158,7 +158,7 @@ void HomePage::makeMessage()
             [this] { emit messageChosen(m_message.id); });
 }
 
-// ---- what is shown ------------------------------------------------------------------------------
+// ---- content ------------------------------------------------------------------------------------
 
 void HomePage::setCodes(const AccountCodes &codes)
 {
@@ -352,8 +352,8 @@ void HomePage::lookAtBalance()
     m_balance->show(view);
 }
 
-/// Returns the most recent entry that contains the validity. Its code is the one for querying the
-/// validity again.
+/// Returns the most recent entry that contains the validity. Its code is replaced with the code for
+/// querying the validity.
 AccountEntry HomePage::validityEntry() const
 {
     const AccountEntry own = m_parts.store->newest(m_codes.validity);
@@ -464,7 +464,7 @@ void HomePage::lookAtFavourites()
     m_grid->setEnabled(m_situation.canSend);
 }
 
-// ---- what the user does -------------------------------------------------------------------------
+// ---- actions ------------------------------------------------------------------------------------
 
 void HomePage::askAgain()
 {

@@ -37,7 +37,7 @@ struct HomeMessage {
 };
 
 /**
- * The page Home, with the balance, its chart, the tiles, the favourites and the newest message. The
+ * The Home page, with the balance, its chart, the tiles, the favourites and the newest message. The
  * page sends codes only if the user clicks a button.
  */
 class HomePage : public Page
@@ -57,7 +57,7 @@ public:
 
     void setCodes(const AccountCodes &codes);
     void setSituation(const Situation &situation);
-    /// Sets the description of the SIM, such as "SIM ending 6789". May be empty.
+    /// Sets the description of the SIM, such as "SIM ending 6789", or an empty string to hide it.
     void setSimText(const QString &text);
     void setMessage(const HomeMessage &message);
 

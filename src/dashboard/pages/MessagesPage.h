@@ -22,7 +22,7 @@ class MessageReader;
 class MessageStore;
 
 /**
- * The page Messages, which shows a list of the network-initiated messages, and the selected message
+ * The Messages page, which shows a list of the network-initiated messages, and the selected message
  * next to it. In the narrow form, the message replaces the list.
  */
 class MessagesPage : public Page

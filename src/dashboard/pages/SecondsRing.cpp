@@ -14,7 +14,7 @@ namespace
 
 const int SIZE = 40; // pixels at 100 % text size
 const int STROKE = 3;
-const int FULL_CIRCLE = 360 * 16; // in the unit of QPainter
+const int FULL_CIRCLE = 360 * 16; // in sixteenths of a degree, as QPainter requires
 const int TOP = 90 * 16;
 
 } // namespace

@@ -35,7 +35,7 @@ QLabel *makeText(const char *type, const char *name, QWidget *parent)
     return label;
 }
 
-/// Returns the second line of a card.
+/// Returns the second line of the service's card: the recipient, the required input, or the code.
 QString lineOf(const Service &service)
 {
     if (!service.isByCode)

@@ -49,7 +49,7 @@ private:
 };
 
 /**
- * The page Services, with a card for each of the operator's services. Clicking a card opens the
+ * The Services page, with a card for each of the operator's services. Clicking a card opens the
  * services window, which describes the service before anything is sent.
  */
 class ServicesPage : public Page
@@ -62,7 +62,7 @@ public:
     /// Reads the services from the plug-in's configuration again. Must be called when the folder of
     /// the plug-in or the SIM has changed.
     void readServices();
-    /// Sets the name of the operator whose services are shown. Empty if the name is unknown.
+    /// Sets the name of the operator whose services are shown. `name` is empty if it is unknown.
     void setOperatorName(const QString &name);
     /// Shows the situation of the device if it prevents the services from being used.
     void setSituation(const Situation &situation);

@@ -24,7 +24,7 @@ namespace
 
 const int WIDEST = 720; // in pixels at 100 % text size
 const int AMOUNT_WIDTH = 88;
-const char FIRST_AMOUNT[] = "5.00"; // in the currency of the account
+const char FIRST_AMOUNT[] = "5.00"; // the initial limit for low-balance notifications
 
 const char *const THEMES[] = {"system", "light", "dark"};
 const ThemeChoice CHOICES[] = {ThemeChoice::System, ThemeChoice::Light, ThemeChoice::Dark};

@@ -32,7 +32,7 @@ struct SettingsParts {
     QMenu *languageMenu;
 };
 
-/** The page Settings. All settings except the text size take effect immediately. */
+/** The Settings page. All settings except the text size take effect immediately. */
 class SettingsPage : public Page
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ namespace Dashboard
 class IconView;
 
 /**
- * A row of the page Settings, with an icon, a title, a description and a control. In the narrow
+ * A row of the Settings page, with an icon, a title, a description and a control. In the narrow
  * form, a wide control is below the title.
  */
 class SettingsRow : public QWidget

@@ -55,7 +55,7 @@ Token iconToken(const char *kind)
     }
 }
 
-/// Returns a layout that centres the widget, whose maximum width it respects.
+/// Returns a layout that centres the widget and respects its maximum width.
 QHBoxLayout *centred(QWidget *widget)
 {
     QHBoxLayout *row = new QHBoxLayout;

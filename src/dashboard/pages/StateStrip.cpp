@@ -29,9 +29,7 @@ const int CHOICE_PADDING = 40; // the padding on both sides of a choice and the 
 
 using Kind = CommandState::Kind;
 
-/**
- * Gives the strip the role of a status bar, which users can make screen readers read on request.
- */
+/** Gives the strip the role of a status bar, so that screen readers can read it on request. */
 class StripAccessible : public QAccessibleWidget
 {
 public:
@@ -176,7 +174,7 @@ void StateStrip::setForm(Form form)
     update();
 }
 
-// ---- what is shown -------------------------------------------------------------------------
+// ---- content -------------------------------------------------------------------------------
 
 void StateStrip::setCommand(const CommandState &state)
 {
@@ -235,7 +233,8 @@ bool StateStrip::isBlocked() const
     return !m_situation.canSend && !m_state.isPending();
 }
 
-/// Returns true if the strip shows why a chain has stopped. The choices of the open menu stay.
+/// Returns true if the strip shows why a chain has stopped. If a menu is open, its choices are also
+/// shown.
 bool StateStrip::showsStoppedChain() const
 {
     return !isBlocked() && m_chain.hasStopped() &&
@@ -340,7 +339,7 @@ void StateStrip::updateEndButtons()
         setButtonIcon(m_end, "stop", Token::Danger);
 }
 
-/// Shows the menu of what can be done with the transcript.
+/// Shows the menu with the actions for the transcript.
 void StateStrip::showMore()
 {
     QMenu *menu = new QMenu(this);
@@ -472,7 +471,7 @@ QPushButton *StateStrip::addButton(const char *kind, const QString &text)
     return button;
 }
 
-/// Returns the remaining width of the row.
+/// Returns the remaining width of the row. It is negative if the buttons do not fit.
 int StateStrip::roomLeft() const
 {
     int used = 0;
@@ -503,7 +502,7 @@ void StateStrip::addChoices()
     addMore(rest);
 }
 
-/// Adds the choice, elided to the room that is left if it is the only choice.
+/// Adds a button for the choice. Elides its text if it is wider than `room` pixels.
 void StateStrip::addChoice(const MenuChoice &choice, int room)
 {
     QPushButton *button = addButton("choice", choiceText(choice));
@@ -529,7 +528,7 @@ void StateStrip::addMore(const QList<MenuChoice> &rest)
             [more, menu] { menu->popup(more->mapToGlobal(QPoint(0, more->height()))); });
 }
 
-/// Offers the older networks after a failure that happens on 4G only.
+/// If the failure occurs only on 4G, adds the button that allows the modem to use 2G and 3G.
 void StateStrip::addAllowOlder()
 {
     if (m_state.failure != TKSV_FAILURE_NOT_ON_4G || !m_canAllowOlder)
@@ -539,7 +538,7 @@ void StateStrip::addAllowOlder()
     connect(allow, &QPushButton::clicked, this, &StateStrip::olderModesRequested);
 }
 
-/// Offers the modem's setting before the older networks were allowed.
+/// Adds the button that restores the setting that the modem had before 2G and 3G were allowed.
 void StateStrip::addOnly4G()
 {
     if (!m_canRestoreModes)
@@ -549,7 +548,8 @@ void StateStrip::addOnly4G()
     connect(only, &QPushButton::clicked, this, &StateStrip::formerModesRequested);
 }
 
-/// Offers the complete reason why the chain has stopped, because the strip may elide it.
+/// Adds the button that shows the complete reason why the chain has stopped, because the strip may
+/// elide it.
 void StateStrip::addReason()
 {
     if (!showsStoppedChain())
@@ -561,7 +561,7 @@ void StateStrip::addReason()
     m_rowLayout->addWidget(reason);
 }
 
-/// Offers to keep the walk, before the codes that were sent last.
+/// Adds the button that keeps the walk. It precedes the most recently sent codes.
 void StateStrip::addKeep()
 {
     if (!m_isKeepOffered)
@@ -590,8 +590,9 @@ void StateStrip::addRecent()
     }
 }
 
-/// In the narrow form, the text may be elided. If the outcome of a code is unknown, it can then be
-/// sent again only from the dialog, which shows the complete text.
+/// Adds the buttons for a failed command. In the narrow form, the strip may elide the text about
+/// the failure. Therefore, the code can be sent again only from the dialog, which shows the
+/// complete text.
 void StateStrip::addFailureButtons()
 {
     addAllowOlder();

@@ -42,11 +42,11 @@ public:
     /// from being sent.
     void setCommand(const CommandState &state);
     void setSituation(const Situation &situation);
-    /// Shows the progress of a chain, or why it has stopped.
+    /// Shows the progress of a chain, or the reason why it has stopped.
     void setChain(const ChainState &chain);
-    /// Sets whether the walk through a menu that has ended can be kept.
+    /// Sets whether there is a button that keeps the user's most recent walk through a menu.
     void setKeepOffered(bool isOffered);
-    /// Sets the codes that are offered while nothing goes on, newest first.
+    /// Sets the codes that are offered while no command is pending, starting with the newest one.
     void setRecent(const QList<CodeName> &codes);
     void setForm(Form form);
     /// Sets whether there is a button that opens the general window in a separate frame.
@@ -82,7 +82,7 @@ signals:
     void keepRequested();
     void chainDismissed();
     void remedyChosen(Dashboard::Remedy remedy);
-    /// Emitted with the text of each alert for screen readers.
+    /// Emitted with the text of each alert that is sent to screen readers.
     void announced(const QString &words);
 
 protected:

@@ -51,10 +51,10 @@ bool ChainRunner::send(const std::string &text)
     return true;
 }
 
-// ---- what happens --------------------------------------------------------------------------
+// ---- replies -------------------------------------------------------------------------------
 
-/// Handles the reply after the window has handled it, because the window accepts the next step only
-/// then.
+/// Queues the handling of the reply, because the window accepts the next step only after it has
+/// handled the reply itself.
 void ChainRunner::onReply(const QString &code, const Reply &reply)
 {
     if (!isRunning())
@@ -72,7 +72,7 @@ void ChainRunner::onReply(const QString &code, const Reply &reply)
 void ChainRunner::advance()
 {
     if (!isRunning()) {
-        // The message of a chain that has stopped is valid until something else happens.
+        // Shows the message about a stopped chain until the next command or the end of the menu.
         if (m_state.hasStopped() && (isOver() || readSession().requests != m_request))
             dismiss();
         return;
@@ -85,8 +85,8 @@ void ChainRunner::advance()
         takeReply();
 }
 
-/// Returns true if the run cannot go on, for a reason that the monitor shows or that the user
-/// knows.
+/// Returns true if the run cannot continue and no message is required, because the monitor already
+/// shows the reason or the user has caused it.
 bool ChainRunner::hasEnded() const
 {
     using Kind = CommandState::Kind;
@@ -96,7 +96,8 @@ bool ChainRunner::hasEnded() const
     return session.requests > m_request || isOver() || isForgotten;
 }
 
-/// Returns true if the monitor shows that the session has failed, or that the user has ended it.
+/// Returns true if the most recent command has failed, or if the user has cancelled it or ended the
+/// menu.
 bool ChainRunner::isOver() const
 {
     using Kind = CommandState::Kind;
@@ -141,7 +142,7 @@ void ChainRunner::retranslate()
     setTexts();
 }
 
-/// Returns why the chain has stopped.
+/// Returns the reason why the chain has stopped, in the user's language.
 QString ChainRunner::reasonText() const
 {
     QString text = dashboardText(m_reason);

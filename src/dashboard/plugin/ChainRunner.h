@@ -11,24 +11,23 @@
 namespace Dashboard
 {
 
-/** What goes on with a chain, in the user's language. */
+/** The state of a chain. All texts are in the user's language. */
 struct ChainState {
     enum class Kind { None, Running, Stopped };
 
     Kind kind = Kind::None;
-    QString progress; // while the chain is running: its name and the step
-    QString title;    // of a chain that has stopped
-    QString text;     // why the chain has stopped
+    QString progress; // the name and the current step of a running chain
+    QString title;    // the title of the message if the chain has stopped
+    QString text;     // the reason why the chain has stopped
 
     bool hasStopped() const { return kind == Kind::Stopped; }
 };
 
 /**
- * Runs a chain through the general window, as a user would. Each step is sent only if the reply
- * before it still offers the same choice. The run ends without a further step if the user or
- * another window sends anything else, types into the code field, cancels or ends the menu, if the
- * network asks something of its own accord, or if a command fails. An open menu stays open for the
- * user.
+ * Runs a chain through the general window, as a user would. Each step is sent only if the previous
+ * reply still offers the same choice. The run ends early if a command fails, if anything else is
+ * sent, if the user types into the code field, cancels the command or ends the menu, or if the
+ * network sends a message that requires an answer. If a menu is open at this time, it stays open.
  */
 class ChainRunner : public QObject
 {
@@ -39,11 +38,12 @@ public:
 
     const ChainState &state() const { return m_state; }
     bool isRunning() const { return m_run.has_value(); }
-    /// Sends the code of the chain. Returns false if no code can be sent now.
+    /// Starts the chain by sending its code. Returns false if a chain is already running or no code
+    /// can be sent now.
     bool run(const Chains::Chain &chain);
 
 public slots:
-    /// Removes the message that the chain has stopped.
+    /// Removes the message about the stopped chain.
     void dismiss();
     void retranslate();
 
@@ -64,13 +64,13 @@ private:
 
     CommandMonitor *const m_monitor;
     std::optional<Chains::ChainRun> m_run;
-    std::optional<Reply> m_reply; // to the string sent last
+    std::optional<Reply> m_reply; // the reply to m_sent, as soon as it has arrived
     QString m_sent;
-    unsigned long m_request = 0; // the number of the request, see Session
-    Chains::ChainStep m_step;    // of a chain that has stopped
+    unsigned long m_request = 0; // the number of the most recent request; see Session
+    Chains::ChainStep m_step;    // the step at which the chain has stopped
     QString m_name;
-    std::size_t m_length = 0;       // see Chains::Chain::length()
-    const char *m_reason = nullptr; // the key of the message of a chain that has stopped
+    std::size_t m_length = 0;       // the result of Chains::Chain::length()
+    const char *m_reason = nullptr; // the text key of the reason why the chain has stopped, or null
     ChainState m_state;
 };
 

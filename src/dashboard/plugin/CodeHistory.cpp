@@ -19,7 +19,7 @@ namespace
 const int MOST_CODES = 50;
 const qint64 LARGEST_FILE = 65536; // bytes
 
-/// Returns true if the string is a code, regardless of its hidden digits.
+/// Returns true if the string is a code, even if some of its digits are hidden.
 bool isKeepable(const QString &code)
 {
     return Formats::isUssdCode(QString(code).replace(HIDDEN_DIGITS, QLatin1Char('0')));

@@ -21,7 +21,7 @@ namespace
 
 const int TICK = 1000;         // ms
 const int MOST_RECENT = 50;    // codes
-const int GIVE_UP_SECONDS = 2; // after the time-out of the plug-in, which it does not report
+const int GIVE_UP_SECONDS = 2; // added to the time-out of the plug-in, which does not report it
 
 qint64 systemClock()
 {
@@ -90,7 +90,7 @@ bool CommandMonitor::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-// ---- what the user does --------------------------------------------------------------------
+// ---- commands ------------------------------------------------------------------------------
 
 bool CommandMonitor::canSend() const
 {
@@ -157,7 +157,7 @@ void CommandMonitor::forget()
     emit changed();
 }
 
-// ---- what happens --------------------------------------------------------------------------
+// ---- state ---------------------------------------------------------------------------------
 
 GeneralWindow CommandMonitor::activeWindow() const
 {
@@ -171,7 +171,7 @@ void CommandMonitor::look()
     const unsigned long earlier = m_session.requests;
     const GeneralWindow window = activeWindow();
     follow(window);
-    readReplies(); // must precede reading the session, which a reply may change
+    readReplies(); // must be called before readSession(), because a reply may change the session
     m_session = readSession();
     if (isPending(window))
         pend(window);
@@ -185,8 +185,8 @@ void CommandMonitor::look()
         emit changed();
 }
 
-/// Also observes the transcript, because a command that is rejected immediately does not disable
-/// the code field.
+/// Observes the transcript of the window, because a command that is rejected immediately does not
+/// disable the code field.
 void CommandMonitor::follow(const GeneralWindow &window)
 {
     if (QTextEdit *history = window.history())
@@ -212,7 +212,7 @@ void CommandMonitor::readReplies()
     }
 }
 
-/// Returns true while a window waits for a reply, or while a request is in flight that the plug-in
+/// Returns true if a window is waiting for a reply, or if a request is in flight that the plug-in
 /// has not given up.
 bool CommandMonitor::isPending(const GeneralWindow &window)
 {
@@ -286,7 +286,7 @@ void CommandMonitor::end(const GeneralWindow &window)
     m_timer.stop();
     m_state.code = m_session.request;
     if (isSameText(window.lastSent(), m_session.request))
-        takeAsOwn(); // the reply may already have arrived
+        takeAsOwn(); // the reply may have arrived before pend() could call this function
     const bool isAnswered =
         m_reply.isReceived && !m_reply.text.isEmpty() && m_reply.code == m_session.request;
     if (m_session.waitsForAnswer())
@@ -378,8 +378,8 @@ int CommandMonitor::secondsSinceStart() const
     return int((m_clock() - m_start) / 1000);
 }
 
-/// Counts the seconds. Also gives up a command of the account window if the plug-in has already
-/// given it up.
+/// Counts the seconds. Gives up the command if no general window is waiting and the plug-in's
+/// time-out has elapsed. The plug-in does not report the time-out of other windows.
 void CommandMonitor::tick()
 {
     if (!m_state.isPending())

@@ -48,7 +48,7 @@ struct CommandState {
     bool operator!=(const CommandState &other) const { return !(*this == other); }
 };
 
-/// The time limit for a reply that is displayed to the user.
+/// The time limit for a reply in seconds, as displayed to the user.
 const int REPLY_SECONDS = 30;
 
 /**
@@ -76,7 +76,8 @@ public:
     bool canSend() const;
     /// Returns true if the code field contains something that has not been sent.
     bool hasTypedText() const;
-    /// Returns the codes that the user sent, newest first, each once, without numbers and PINs.
+    /// Returns the codes that the user has sent, starting with the newest one, without duplicates,
+    /// and without numbers and PINs.
     QStringList recent() const { return m_recent; }
     /// Sets the codes of the operator and of the user, which are used to remove numbers from codes;
     /// see codeWithoutNumbers().
@@ -105,9 +106,9 @@ public slots:
     void dismiss();
     /// Updates the state from the session, the replies and the windows.
     void look();
-    /// Discards the failure. Must be called when another device or another plug-in is in use.
+    /// Discards the failure. Must be called when the device or the plug-in has changed.
     void forget();
-    /// Discards the codes that the user has sent.
+    /// Clears the list of codes that recent() returns.
     void forgetRecent() { m_recent.clear(); }
     void retranslate();
     /// Updates the number of seconds. Called every second while a command is pending.
@@ -119,7 +120,8 @@ signals:
     /// Emitted each second while a command is pending.
     void ticked(int seconds);
     /// Emitted for each reply to a command of any window, and for each network-initiated message.
-    /// `code` is the command to which the reply belongs, or empty for a network-initiated message.
+    /// `code` is the command to which the reply belongs, or an empty string if the network has
+    /// initiated the message.
     void replied(const QString &code, const Dashboard::Reply &reply);
     /// Emitted when the user has sent a code in a general window. `code` contains no number or PIN.
     void sent(const QString &code);
@@ -158,12 +160,12 @@ private:
     Session m_session;
     Reply m_reply;                   // the newest reply to the most recent request
     QString m_menu;                  // the newest message that requires an answer
-    bool m_hasNewMenu = false;       // true if m_menu is newer than the state
-    TKSV_FailureInfo m_failure = {}; // valid in the states Failed and Cancelled
+    bool m_hasNewMenu = false;       // true if the state does not contain m_menu yet
+    TKSV_FailureInfo m_failure = {}; // valid if the state is Failed or Cancelled
     qint64 m_start = 0;              // when the pending command was sent
     bool m_isTranscriptChanged = false;
     // Request numbers; see TKSV_SessionInfo.
-    unsigned long m_pendingRequest = 0; // valid in the states Waiting and Queued
+    unsigned long m_pendingRequest = 0; // valid if the state is Waiting or Queued
     unsigned long m_ownRequest = 0;     // the most recent request of a general window
     unsigned long m_givenUp = 0;        // the request that the plug-in has given up
     unsigned long m_firstQuery = 0;     // the first request of the query; 0 if there was no query

@@ -57,7 +57,7 @@ int CommandSender::send(const QStringList &commands)
 
 int CommandSender::sendOne(const QString &command)
 {
-    QCoreApplication::processEvents(); // a signal may have arrived while a reply was being printed
+    QCoreApplication::processEvents(); // SIGINT may have arrived while a reply was being printed
     if (isInterrupted())
         return interrupt(true);
     m_parts.tap.clear();

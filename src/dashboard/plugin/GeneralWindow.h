@@ -56,8 +56,9 @@ public:
     /// accept the text.
     bool send(const QString &text) const;
 
-    /// Returns true if the plug-in shows this string instead of a reply, for example because no
-    /// reply has arrived in time.
+    /// Returns true if the plug-in shows this string instead of a reply after a time-out.
+    /// isFailureText() also returns true for the string that the plug-in shows after any other
+    /// failure.
     static bool isTimeOutText(const QString &text);
     static bool isFailureText(const QString &text);
 
@@ -66,7 +67,8 @@ public:
     /// Returns the most recent reply in the transcript without its caption, or an empty string if
     /// there is no reply. The transcript's markup may have changed the white space of the reply.
     QString lastReceived() const;
-    /// Returns the most recent command in the transcript without its caption, or an empty string.
+    /// Returns the most recent command in the transcript without its caption, or an empty string if
+    /// there is no command.
     QString lastSent() const;
 
     /// Enlarges the transcript to use the space that the buttons do not need.

@@ -7,7 +7,7 @@
 namespace Dashboard
 {
 
-/** A choice of a menu for the user, see Chains::Choice. */
+/** A choice of a network menu; see Chains::Choice. */
 struct MenuChoice {
     QString key; // "1" to "999", "0", "00", "*" or "#", always in ASCII
     QString text;
@@ -16,7 +16,7 @@ struct MenuChoice {
     bool operator!=(const MenuChoice &other) const { return !(*this == other); }
 };
 
-/// Returns the choices that a menu of the network offers, see Chains::menuChoices().
+/// Returns the choices of a network menu with this text; see Chains::menuChoices().
 QList<MenuChoice> menuChoices(const QString &menu);
 
 } // namespace Dashboard

@@ -88,7 +88,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     reply.asksForAnswer = response->type == NETWORK_WAITS;
     reply.code = answeredCode();
     tap->keep(reply);
-    return 0; // the return value of the plug-in's call-back is decisive
+    return 0; // only the return value of the plug-in's call-back is significant
 }
 
 void ReplyTap::keep(const Reply &reply)
@@ -97,7 +97,7 @@ void ReplyTap::keep(const Reply &reply)
         QMutexLocker lock(&m_mutex);
         m_reply = reply;
         if (!reply.text.isEmpty() || !reply.code.isEmpty())
-            m_untaken << reply; // expectAnswer() does not add a reply
+            m_untaken << reply; // the reply that expectAnswer() creates is empty and is not added
         if (m_untaken.size() > MOST_UNTAKEN)
             m_untaken.removeFirst();
     }

@@ -9,7 +9,7 @@
 namespace Dashboard
 {
 
-/** Records the walk that the user takes through the menus of a code, see Chains::WalkRecorder. */
+/** Records the choices that the user makes in the menus of a code; see Chains::WalkRecorder. */
 class WalkWatcher : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ public:
     /// The monitor must outlive the watcher.
     explicit WalkWatcher(CommandMonitor *monitor, QObject *parent = nullptr);
 
-    /// Returns the walk that can be kept; a chain without steps means that there is none.
+    /// Returns the most recent walk that can be kept, or a chain without steps if there is none.
     Chains::Chain walk() const { return m_recorder.finished(); }
 
 public slots:
-    /// Forgets the walk. Must be called when another SIM is in use.
+    /// Discards the walk. Must be called when the SIM has changed.
     void forget();
 
 signals:

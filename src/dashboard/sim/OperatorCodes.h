@@ -61,7 +61,7 @@ public:
     /// Returns true if the user has decided which codes to use for this SIM's network.
     bool isDecided() const;
 
-    /// Returns the operators that may have issued this SIM and have codes.
+    /// Returns the operators that have codes and may have issued this SIM.
     Provisioning::ProviderChoice choice() const;
     /// Returns the operators of choice(). If there are none, returns all operators in the SIM's
     /// country that have codes.

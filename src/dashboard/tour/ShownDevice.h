@@ -11,9 +11,7 @@ namespace Dashboard
 
 class DeviceWatcher;
 
-/**
- * As long as it exists, makes the dashboard show a device that is not connected to the computer.
- */
+/** While this object exists, the dashboard shows a device that is not connected to the computer. */
 class ShownDevice
 {
 public:

@@ -35,8 +35,8 @@ public:
     /// Adds a picture of `place` and the text that is visible in the picture. Returns false if the
     /// picture cannot be written.
     bool add(const QPixmap &picture, const char *place, const TourStop &stop, const QString &text);
-    /// Writes a contact sheet, which shows all pictures the thumbnails of the current language as
-    /// thumbnails with their names.
+    /// Writes a contact sheet, which shows thumbnails of all pictures in the current language with
+    /// their names. Returns false if it cannot be written.
     bool writeContactSheet();
     bool writeTranscript();
     int pictures() const { return m_pictures; }
@@ -56,7 +56,7 @@ private:
 
     QDir m_folder;
     QString m_language;
-    QList<Thumbnail> m_thumbnails; // of the current language
+    QList<Thumbnail> m_thumbnails; // the pictures in the current language
     int m_pictures = 0;
     QStringList m_transcript; // lines
 };

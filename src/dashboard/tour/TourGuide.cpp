@@ -82,7 +82,7 @@ bool TourGuide::useNetwork(const TourChange *changes, int count)
     m_deviceLost = false;
     if (!m_window->useScenario(m_library->fileName(name)))
         return TourAlbum::fail("SCENARIO_UNUSABLE", name);
-    // The change of the network also ends all commands that were sent before.
+    // Waits until the previous device has been removed, which also ends all pending commands.
     return waitFor([this] { return m_deviceLost; });
 }
 

@@ -15,12 +15,12 @@ namespace TourParts
 
 /// Visits each page in each form and theme, and with large fonts.
 bool walkPages(TourGuide &guide);
-/// Visits the page Codes while a code is in flight and after its reply.
+/// Visits the Codes page while a code is in flight and after its reply.
 bool walkStates(TourGuide &guide);
 /// Visits each window of the plug-in once, in the light and the dark theme.
 bool walkWindows(TourGuide &guide);
 
-/// Visits the general window, in the page and in a frame, and the dashboard with another SIM.
+/// Visits the general window on the Codes page and in a frame, and the dashboard with another SIM.
 bool walkGeneral(TourGuide &guide);
 /// Visits the prepaid and the postpaid window with several configurations.
 bool walkAccount(TourGuide &guide);

@@ -91,7 +91,7 @@ signals:
     void windowsOffered();
     void paidTypeChanged();
     void frameOpened();
-    /// Emitted when a frame of the plug-in was closed, in which the user may have saved codes.
+    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in this frame.
     void frameClosed();
     void commandEnded();
     /// Emitted when a network-initiated message has arrived.

@@ -11,7 +11,7 @@ namespace Dashboard
 namespace
 {
 
-// In pixels at 100 % text size. A banner whose text wraps is higher.
+// In pixels at 100 % text size. A banner whose text wraps is taller.
 const int HEIGHT = 60;
 const int TWO_ROWS = 104;
 

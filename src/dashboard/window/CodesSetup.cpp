@@ -68,13 +68,14 @@ CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourite
     followSettings();
 }
 
-/// Codes of a demonstration must not be offered for a SIM, and the other way round.
+/// Keeps the codes of demonstrations apart from those of a SIM.
 void CodesSetup::followDevice()
 {
     m_history.setInvented(m_controller->device().status().isSimulated);
 }
 
-/// A walk belongs to the SIM with which the user took it.
+/// Connects the objects for chains. Walks are discarded when the SIM may have changed, because each
+/// walk belongs to a single SIM.
 void CodesSetup::followChains()
 {
     connect(m_controller, &AppController::deviceChosen, &m_walks, &WalkWatcher::forget);
@@ -85,7 +86,7 @@ void CodesSetup::followChains()
     connect(m_controller, &AppController::languageChanged, &m_chains, &ChainRunner::retranslate);
 }
 
-/// Returns the codes with names. The place for a number is shown as an ellipsis.
+/// Returns the named codes, with an ellipsis instead of the placeholder for a number.
 QList<CodeName> CodesSetup::names() const
 {
     QList<CodeName> names;

@@ -18,7 +18,7 @@ struct CodeName;
 struct PluginFailure;
 
 /**
- * Creates the page Codes and its history, and updates them when the plug-in, the codes or the
+ * Creates the Codes page and its history, and updates them when the plug-in, the codes or the
  * settings change.
  */
 class CodesSetup : public QObject

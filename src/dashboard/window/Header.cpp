@@ -20,7 +20,7 @@ const int NARROW_HEIGHT = 60;
 const int SHOWN_DIGITS = 4;
 const int NUMBER_TIME = 10000; // ms
 
-// The columns in the wide form. The narrow form uses only the first ones and those of the buttons.
+// The columns of the layout. In the narrow form, the columns SimIcon, Sim and Eye are empty.
 enum Column { Operator, Kind, Bars, Signal, Gap, SimIcon, Sim, Eye, Bell, Menu };
 
 template <typename T>
@@ -149,13 +149,13 @@ QString Header::simText() const
     return dashboardText("HEADER_SIM_ENDING").arg(isolated(number.right(SHOWN_DIGITS)));
 }
 
-// The operator's name is more important than the SIM.
+// Returns false if the SIM would reduce the space for the operator's name.
 bool Header::hasRoomForSim() const
 {
     if (m_form == Form::Narrow)
         return false;
     if (!isVisible())
-        return true; // the sizes are not needed yet, and they would apply the style too early
+        return true; // computing the sizes would apply the style too early
     const QMargins margins = m_grid->contentsMargins();
     int wanted = margins.left() + margins.right();
     for (const QWidget *part : {static_cast<QWidget *>(m_operator), static_cast<QWidget *>(m_chip),

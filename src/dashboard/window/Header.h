@@ -46,7 +46,8 @@ public:
     void retranslate();
 
     QPushButton *menuButton() const { return m_menu; }
-    /// Returns true if the header has room for the SIM. If not, it belongs into the menu.
+    /// Returns true if the header has space for the description of the SIM. Otherwise, the menu
+    /// should contain this description.
     bool hasRoomForSim() const;
     /// Returns the description of the SIM, for example "SIM ending 6789".
     QString simText() const;

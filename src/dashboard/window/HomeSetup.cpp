@@ -48,8 +48,8 @@ HomePage *makePage(HomePage::Parts parts, AccountStore *store, AccountRecorder *
     return new HomePage(parts, parent);
 }
 
-/// Returns the file name, or an empty string if the controller does not have settings and nothing
-/// is stored.
+/// Returns the file name. Returns an empty string if the controller does not have settings, because
+/// nothing is stored in this case.
 QString fileIfStored(const AppController *controller, const QString &file)
 {
     return controller->settings() ? file : QString();
@@ -116,7 +116,7 @@ void HomeSetup::readCodes()
     followSim();
 }
 
-/// Returns true if the balance code is one of the SIM's operator, and the user is not typing.
+/// Returns true if the balance code belongs to the SIM's operator and the command field is empty.
 bool HomeSetup::mayAskDaily() const
 {
     const QLineEdit *field = m_controller->pageWindow().commandEdit();

@@ -17,7 +17,7 @@ class AppController;
 class HomePage;
 
 /**
- * Creates the account data and the page Home, and updates them when the SIM, the codes or the
+ * Creates the account data and the Home page, and updates them when the SIM, the codes or the
  * settings change.
  */
 class HomeSetup : public QObject
@@ -38,11 +38,11 @@ public:
 public slots:
     /// Applies the current SIM and the current settings.
     void followSim();
-    /// Reads the codes of the plug-in's files again.
+    /// Reads the codes from the plug-in's files again.
     void readCodes();
     /// Deletes the entries and the favourites.
     void deleteAll();
-    /// Must be called when the SIM has got another key.
+    /// Must be called when the key of the SIM has changed.
     void renewSimKey();
     /// Saves the entries to a file that the user selects.
     void exportAccount();

@@ -15,8 +15,8 @@ class OperatorCodes;
 class OperatorDialog;
 
 /**
- * Suggests an operator's codes once for each home network, and lets the user change the decision
- * later.
+ * Suggests an operator's codes once for each home network, and lets the user change this
+ * decision at any time.
  */
 class OperatorChooser : public QObject
 {
@@ -33,7 +33,7 @@ public:
     QString acceptText() const;
 
 public slots:
-    /// Suggests codes unless the user has already decided for this SIM's network.
+    /// Suggests codes unless the user has already made a decision for this SIM's network.
     void propose();
     /// Uses the codes of the matching operator. If there are several, opens the dialog in which the
     /// user selects one.

@@ -19,8 +19,8 @@ class OperatorDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// `current` is the name of the operator whose codes are in use, or empty. `noneKey` is the
-    /// text key of the last row, which represents no operator.
+    /// `current` is the name of the operator whose codes are in use. It may be empty. `noneKey` is
+    /// the text key of the last row, which represents no operator.
     OperatorDialog(const QString &network, const QList<Provisioning::Provider> &candidates,
                    const QString &current, const char *noneKey, QWidget *parent);
 

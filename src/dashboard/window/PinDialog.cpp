@@ -19,7 +19,7 @@ namespace Dashboard
 namespace
 {
 
-const int SHORTEST = 4; // digits of a PIN (3GPP TS 31.101, 9.4)
+const int SHORTEST = 4; // the minimum number of digits of a PIN (3GPP TS 31.101, 9.4)
 const int LONGEST = 8;
 const int FIELD_WIDTH = 200; // in pixels at 100 % text size
 const int TEXT_WIDTH = 340;

@@ -145,7 +145,7 @@ void QuestionDialog::showQuestion()
     m_answers->field()->setFocus();
 }
 
-/// Closes the dialog without an answer. The menu stays open on the page Codes.
+/// Closes the dialog without an answer. The menu stays open on the Codes page.
 void QuestionDialog::reject()
 {
     m_isPutOff = true;

@@ -13,8 +13,8 @@ class AnswerBox;
 class CommandMonitor;
 
 /**
- * Shows an open menu of the network above a modal window of the plug-in, which blocks the page
- * Codes. The dialog opens when the network requests an answer while such a window is open. It
+ * Shows an open menu of the network above a modal window of the plug-in, which blocks the Codes
+ * page. The dialog opens when the network requests an answer while such a window is open. It
  * closes when the answer has been sent, the menu has ended or the window has been closed. The user
  * can postpone the answer. All functions must be called from the GUI thread.
  */

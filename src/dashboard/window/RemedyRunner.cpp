@@ -80,8 +80,9 @@ void RemedyRunner::tryDemonstration()
         emit deviceFailed(error);
 }
 
-/// Uses the modem that the user has selected, or the first modem if there is no selection or if the
-/// automatic choice is a simulated network that the environment specifies.
+/// Uses the modem that the user has selected, or the automatic choice if no modem has been
+/// selected. If the environment makes the automatic choice a simulated network, uses the first
+/// modem.
 void RemedyRunner::useMyModem()
 {
     const DashboardSettings *settings = m_controller->settings();

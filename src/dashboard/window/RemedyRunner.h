@@ -35,7 +35,7 @@ signals:
     /// Emitted when the Modem menu is to be opened.
     void modemMenuRequested();
     void operatorRequested();
-    /// Emitted when the page Codes is to be opened with the focus in the command field.
+    /// Emitted when the Codes page is to be opened with the focus in the command field.
     void typingRequested();
     /// Emitted with the error message if a device cannot be used.
     void deviceFailed(const QString &error);

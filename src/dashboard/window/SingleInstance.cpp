@@ -32,7 +32,8 @@ socklen_t makeAddress(const QByteArray &name, sockaddr_un *address)
     const std::size_t size = qMin(std::size_t(full.size()), sizeof address->sun_path - 1);
     std::memset(address, 0, sizeof *address);
     address->sun_family = AF_UNIX;
-    std::memcpy(address->sun_path + 1, full.constData(), size); // the first byte is zero
+    std::memcpy(address->sun_path + 1, full.constData(),
+                size); // the first byte of an abstract address is zero
     return socklen_t(offsetof(sockaddr_un, sun_path) + 1 + size);
 }
 

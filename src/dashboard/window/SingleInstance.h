@@ -12,7 +12,7 @@ namespace Dashboard
 /**
  * Ensures that each user has only one window of the program on each display. The first instance
  * listens on an abstract socket, which the system removes when the process ends. Later instances
- * request the first one to raise its window. If it does not answer within ANSWER_LIMIT, they open
+ * request that the first one raise its window. If it does not answer within ANSWER_LIMIT, they open
  * their own windows.
  */
 class SingleInstance : public QObject
