@@ -176,7 +176,8 @@ bash
 bash'
 finds packages 'bash stands in no section' packages.txt <<<'bash'
 finds packages '\[rum\] is no section' packages.txt <<<'[rum]'
-# translations.sh: adds missing keys, removes others, and creates the file of a language.
+# Tests that translations.sh adds missing keys, removes unused keys, and creates the file of a new
+# language.
 fresh_tree
 write translations/en.ts <<'TS'
 <TS version="2.1" language="en">

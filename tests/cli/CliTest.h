@@ -33,7 +33,7 @@ public:
     bool waitForOutput(const QString &text);
     bool waitForError(const QString &text);
     void sendSignal(int signal);
-    /// Waits until the program has ended.
+    /// Waits until the program has ended and returns its result.
     Run finish();
 
 #if QT_VERSION < 0x060000

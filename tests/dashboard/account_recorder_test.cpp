@@ -112,7 +112,8 @@ void AccountRecorderTest::ownCodesAreAdded()
     QVERIFY(codes.all.last().isOwn);
 }
 
-/// The numbers in these codes are hidden in the history, however short they are.
+/// Tests that all codes with a placeholder for a number are found. The numbers in these codes are
+/// hidden in the history, even if they are short.
 void AccountRecorderTest::everyCodeWithAPlaceIsKnown()
 {
     m_files.userProfiles =

@@ -388,7 +388,7 @@ void AccountStoreTest::theKeyOfASimDoesNotTellIt()
     QCOMPARE(QFile::permissions(salt) & (QFile::ReadGroup | QFile::ReadOther),
              QFile::Permissions());
     QVERIFY(QFile::remove(salt));
-    const QString other = simKey(imsi, m_folder); // of another installation
+    const QString other = simKey(imsi, m_folder); // a new salt, as in another installation
     QVERIFY(other != key);
     QVERIFY(forgetSimKeys(m_folder));
     QVERIFY(!QFile::exists(salt));

@@ -353,7 +353,8 @@ void HomePageTest::favouritesAreSelectedAndKept()
         }
         for (int i = 5; i < 7; ++i)
             list->item(i)->setCheckState(Qt::Checked);
-        QVERIFY(!(list->item(7)->flags() & Qt::ItemIsUserCheckable)); // six are selected
+        // Six favourites are already selected.
+        QVERIFY(!(list->item(7)->flags() & Qt::ItemIsUserCheckable));
         QCOMPARE(dialog.selected().size(), Favourites::MOST);
         QCOMPARE(dialog.selected().at(0).code, QLatin1String("*123#"));
         QVERIFY(favourites.select(dialog.selected()));
@@ -393,7 +394,7 @@ void HomePageTest::chainsAreRenamedAndDeleted()
     const auto button = [dialog](const char *name) {
         return dialog->findChild<QPushButton *>(QLatin1String(name));
     };
-    list->setCurrentRow(0); // a code
+    list->setCurrentRow(0); // this row contains a code, not a chain
     QVERIFY(!button("Dashboard_RenameChain")->isEnabled());
     QVERIFY(!button("Dashboard_DeleteChain")->isEnabled());
     list->setCurrentRow(
@@ -402,7 +403,7 @@ void HomePageTest::chainsAreRenamedAndDeleted()
             : -1);
     button("Dashboard_RenameChain")->click();
     ChainDialog *naming = dialog->findChild<ChainDialog *>();
-    naming->setName(QLatin1String("OTHER")); // in use
+    naming->setName(QLatin1String("OTHER")); // this name is already in use
     QVERIFY(!naming->findChild<QPushButton *>(QLatin1String("Dashboard_KeepChain"))->isEnabled());
     naming->setName(QLatin1String("1 GB"));
     naming->accept();

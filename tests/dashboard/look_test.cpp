@@ -180,7 +180,8 @@ private:
     }
 
 private slots:
-    // This function must run first, because the style cannot be removed once it has been applied.
+    // Tests that selecting a theme does not affect the application before the look is started. This
+    // test must run first, because the style cannot be removed once it has been applied.
     void leavesTheApplicationAloneUntilItIsStarted()
     {
         const QPalette before = QApplication::palette();

@@ -168,11 +168,11 @@ void MainWindowTest::aCommandOfThePageIsAnswered()
 void MainWindowTest::theNumbersOfTheOperatorsCodesAreHidden()
 {
     const QStringList templates = m_window->controller().monitor().templates();
-    QVERIFY(templates.contains(QLatin1String("*140*%s#"))); // a profile
-    QVERIFY(templates.contains(QLatin1String("*101*%s#"))); // the account window
-    QVERIFY2(templates.contains(QLatin1String("*106*%s#")), // a service
+    QVERIFY(templates.contains(QLatin1String("*140*%s#"))); // from a profile
+    QVERIFY(templates.contains(QLatin1String("*101*%s#"))); // from the account window
+    QVERIFY2(templates.contains(QLatin1String("*106*%s#")), // from a service
              qPrintable(templates.join(QLatin1Char(' '))));
-    QVERIFY(!templates.contains(QLatin1String("WEATHER %s"))); // a short message
+    QVERIFY(!templates.contains(QLatin1String("WEATHER %s"))); // a short message, not a code
 }
 
 void MainWindowTest::aChainOfTheFirstPageIsRun()

@@ -131,7 +131,7 @@ void MessagesPageTest::theRowsAreGroupedByDay()
     QCOMPARE(day(2), latin1("Yesterday"));
     QCOMPARE(day(3), QLocale().toString(m_noon.date().addDays(-40), QLocale::LongFormat));
     m_store->remove(model()->message(model()->index(0)).id);
-    // The row that is now the first one of its day shows the day.
+    // After the first row of a day has been removed, the next row shows the day.
     QCOMPARE(day(0), latin1("Today"));
 }
 

@@ -157,7 +157,7 @@ void OperatorCodesTest::ofSeveralNoneIsChosenSilently()
 {
     useSim(SEVERAL);
     QVERIFY(notice().contains(QLatin1String("Several")));
-    take(); // the button opens a message box first
+    take(); // the button opens a dialog first
     QCOMPARE(inUse(), QString());
     QPushButton *ok = window().findChild<QPushButton *>(QLatin1String("Dashboard_OperatorOk"));
     QVERIFY(ok && !ok->isEnabled());

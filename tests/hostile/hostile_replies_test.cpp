@@ -254,7 +254,7 @@ void HostileRepliesTest::linkInAReplyOpensNothing()
     SystemCalls::watch();
     QPoint middle = history()->viewport()->rect().center();
     while (history()->anchorAt(middle).isEmpty() && middle.y() > 0)
-        middle.ry() -= 1;                            // the space between two lines is no link
+        middle.ry() -= 1;                            // the space between two lines is not a link
     QVERIFY(!history()->anchorAt(middle).isEmpty()); // there is a link under the pointer
     QTest::mouseClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     QTest::mouseDClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
@@ -321,7 +321,7 @@ void HostileRepliesTest::labelOutlivesReply()
     QCOMPARE(label.text(), reply);
 }
 
-/// Shows long replies repeatedly, and checks that the memory use does not grow.
+/// Tests that the memory use does not grow when long replies are shown and cleared repeatedly.
 void HostileRepliesTest::memoryComesBack()
 {
     open();

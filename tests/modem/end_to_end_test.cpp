@@ -438,7 +438,8 @@ void EndToEndTest::aReplyInThreeScriptsIsAnswered()
     QCOMPARE(ask(name), QString::fromUtf8("Du heißt %1.").arg(name));
 }
 
-/// Tests a command of 91 UTF-16 code units, which is the maximum for the plug-in's command record.
+/// Tests that a command of 91 UTF-16 code units reaches the modem unchanged. This is the maximum
+/// for the plug-in's command record.
 void EndToEndTest::theLongestCommand()
 {
     openPage();
@@ -736,8 +737,8 @@ void EndToEndTest::severalProgramsGetTheirOwnReplies()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// Tests the message that a second program prints while the first program is waiting for a reply
-/// that never arrives.
+/// Tests that a second program reports that it is waiting for its turn. The first program is
+/// waiting for a reply that never arrives.
 void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
 {
     QProcess first;
@@ -755,8 +756,9 @@ void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
     QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
 }
 
-/// Tests the error message of a program that stops waiting for its turn. The program cannot rule
-/// out that the code was carried out, because its turn may have come at the last moment.
+/// Tests that a program that stops waiting for its turn does not claim that the code was not
+/// carried out. The code may have been carried out, because its turn may have come at the last
+/// moment.
 void EndToEndTest::aProgramThatMissesItsTurnClaimsNothing()
 {
     Tksv::SessionTurn another("350000000000017");

@@ -94,8 +94,8 @@ void ModemInternalsTest::aSilentServiceIsNoticed()
     watch.stop();
 }
 
-/// Tests a request that is pending when the user selects another device. ModemManager has not
-/// reported its modems yet.
+/// Tests that a pending request fails if the user selects another device before ModemManager has
+/// reported its modems.
 void ModemInternalsTest::aRequestThatWaitsForTheServiceFailsWithTheDevice()
 {
     FakeModems::ModemWorld world;

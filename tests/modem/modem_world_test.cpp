@@ -203,9 +203,9 @@ void ModemWorldTest::refusals()
     QCOMPARE(m_client->initiate("*100#").text, std::string("Balance 10.00"));
 }
 
-/// Tests a reply that arrives in several pieces, after the OK. If the reply arrived in pieces
-/// together with the OK, the daemon would use only the pieces that have arrived when it reads the
-/// OK.
+/// Tests that a reply is complete even if it arrives in several pieces, provided that they arrive
+/// after the OK. If the pieces arrived together with the OK, the daemon would use only those that
+/// have arrived when it reads the OK.
 void ModemWorldTest::trickledBytesAreRead()
 {
     addModem();

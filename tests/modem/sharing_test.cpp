@@ -273,7 +273,8 @@ void ModemSharingTest::cancelDoesNotEndAForeignSession()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// Tests cancelling a command while polkit is waiting for a password.
+/// Tests that a command that is cancelled while polkit is waiting for a password is cancelled on
+/// the modem only after polkit has answered.
 void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
 {
     useModem();
@@ -310,8 +311,8 @@ void ModemSharingTest::polkitIsNotAskedDuringAForeignSession()
     QCOMPARE(m_world->polkit().timesAsked(), before);
 }
 
-/// Tests two programs that start a session at the same time. The daemon refuses one of the
-/// sessions. Cancelling our command must never end the other program's session.
+/// Tests that cancelling our command never ends the other program's session, even if both programs
+/// start a session at the same time. The daemon refuses one of the sessions.
 void ModemSharingTest::aCommandCancelledAtOnceSparesTheOtherProgram()
 {
     useModem();

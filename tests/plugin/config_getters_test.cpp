@@ -236,7 +236,7 @@ void ConfigGettersTest::emptyImsiNeverMatches()
     QCOMPARE(flagsOf(QString()), -1);
 }
 
-/// Compares the result with a linear search in a map of random prefixes.
+/// Tests that matchImsi() gives the same results as a linear search in maps of random prefixes.
 void ConfigGettersTest::longestPrefixIsFoundAmongManyRandomOnes()
 {
     std::srand(20260101);

@@ -132,7 +132,8 @@ void EditorTableTest::textThatDiffersInCaseIsNoDuplicate()
     QCOMPARE(cell(4, column), other);
 }
 
-/// Tests a second duplicate that is typed before the message about the first one has opened.
+/// Tests that a second duplicate that is typed before the message about the first one has opened is
+/// also rejected.
 void EditorTableTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
 {
     openEditor();

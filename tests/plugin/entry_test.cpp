@@ -148,7 +148,7 @@ void EntryTest::noQt4HostTakesThisBuild()
     QVERIFY(key != USSD_QT4_BUILD_KEY);
 }
 
-/// Tests the default value of the CMake variable for the build key.
+/// Tests that the CMake variable for the build key has the known default value.
 void EntryTest::shippedBuildKeyIsTheKnownOne()
 {
     QFile file(QStringLiteral(USSD_SOURCE_DIR "/CMakeLists.txt"));

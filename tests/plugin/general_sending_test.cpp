@@ -296,8 +296,8 @@ void GeneralSendingTest::answersOfManyCommandsStandInOrder()
     QCOMPARE(requests().count(), 30);
 }
 
-/// Tests a late answer. Answers do not contain the command to which they belong, so a late answer
-/// is shown as the answer to the current command.
+/// Tests that a late answer is shown as the answer to the current command. Answers do not identify
+/// the command to which they belong.
 void GeneralSendingTest::lateAnswerAfterTheNextCommandIsTakenForIts()
 {
     open(WINDOW_MODEL_MODAL);

@@ -454,7 +454,7 @@ void GeneralTranscriptTest::modalDialogShownAgainHasAnEmptyTranscript()
     dialog()->ReInitDialog();
     QVERIFY(shownLines().isEmpty());
     QCOMPARE(history()->entries(), QString());
-    QVERIFY(clearButton()->isEnabled()); // the button is still enabled
+    QVERIFY(clearButton()->isEnabled()); // although the transcript is empty
     send(latin1("*101#"));
     QCOMPARE(shownLines(), QStringList{sentLine(latin1("*101#"))});
 }

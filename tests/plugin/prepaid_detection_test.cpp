@@ -247,8 +247,8 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking_data()
     QTest::newRow("opened, then asked") << false;
 }
 
-/// Tests the notifications for two windows. Only one window has sent the detection request, but
-/// both receive the answer.
+/// Tests that two windows notify the host in the order in which they were created. Both receive the
+/// answer, although only one of them has sent the detection request.
 void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
 {
     QFETCH(bool, prepaidFirst);

@@ -437,8 +437,8 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
     QVERIFY(link()->text().startsWith(QLatin1String("<a href=\"") + QString::fromLatin1(url)));
 }
 
-/// Tests an address that just fits, and one that is a single character too long and is therefore
-/// elided to 300 pixels.
+/// Tests that an address that just fits is shown completely, and that an address that is one
+/// character too long is elided to 300 pixels.
 void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 {
     const QFontMetrics metrics(QApplication::font());

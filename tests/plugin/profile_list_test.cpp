@@ -125,7 +125,7 @@ void ProfileListTest::getProfileListReplacesTheCallersList()
     profiles << profile(latin1("old"), latin1("*9#"));
     store.GetProfileList(profiles);
     QCOMPARE(codes(profiles), QStringList{latin1("*1#")});
-    profiles.clear(); // does not affect the original list
+    profiles.clear(); // does not affect the list in `store`
     QCOMPARE(codes(list(store)), QStringList{latin1("*1#")});
 }
 

@@ -345,7 +345,7 @@ void ShutdownTest::hearDialogIn(QWidget *frame, int type)
     openModal(type);
 }
 
-/// Tests a host that shuts the plug-in down during the close event of a frame. The library is
+/// Tests that a host may shut the plug-in down during the close event of a frame. The library is
 /// unloaded only after the event.
 void ShutdownTest::insideTheCloseEventOfAFrame()
 {

@@ -192,7 +192,7 @@ void SmsControlsTest::configurationIsReadAnewOnDemand()
     QCOMPARE(m_dialog->GetSize(), QSize(77, 88));
     QVERIFY(tree()->isEnabled());
     QVERIFY(button()->isHidden());
-    select(PREPAID); // the entry of this row no longer exists
+    select(PREPAID); // the new file does not contain this service
     QVERIFY(button()->isHidden());
     m_dialog->InitTree();
     m_dialog->SetLanguage();

@@ -515,7 +515,7 @@ void SdkPromises::laterRequestReplacesTheEarlier()
 {
     QVERIFY(doInTime(10, startAfresh, [] {
         request(u"*110#");
-        request(u"*111#"); // replies later than the first request would have
+        request(u"*111#"); // its reply is due later than the reply to *110#
     }));
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
@@ -734,8 +734,8 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
-/// Compares only the last events, because the number of preceding network changes depends on the
-/// type of device.
+/// Tests that the SMS status follows the state of the device. Compares only the last events,
+/// because the number of preceding network changes depends on the type of device.
 void SdkPromises::smsStatusFollowsTheDevice()
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n";
@@ -906,8 +906,8 @@ void SdkPromises::garbageIsRefused()
     QVERIFY(TKSV_SMSSrv_SendMsg(sms) != 0);
 }
 
-/// Calls all functions concurrently, so that the sanitizers can detect errors. Then checks that the
-/// device still works.
+/// Tests that all functions can be called concurrently. The sanitizers detect errors during the
+/// calls. Afterwards, the device must still work.
 void SdkPromises::manyThreadsAtOnce()
 {
     std::vector<std::thread> threads;

@@ -267,9 +267,9 @@ void SdkTurn::folderThatOthersCanWriteToIsNotUsed()
     QVERIFY(QDir(queues()).isEmpty());
 }
 
-/// Tests an environment variable with the path of another user's folder, which a program that was
-/// started with "su" can inherit. If the program created the queue there, the other user's programs
-/// could no longer use their queue.
+/// Tests that the queue is not created in another user's folder. A program that was started with
+/// "su" can inherit an environment variable with the path of such a folder. If the program created
+/// the queue there, the other user's programs could no longer use their queue.
 void SdkTurn::runtimeFolderOfAnotherUserIsNotUsed()
 {
     const uid_t another = 65534;

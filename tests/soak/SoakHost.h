@@ -31,8 +31,8 @@ public:
 
     /// Returns true if the plug-in's files have been copied and the network has been started.
     bool isReady() const { return m_isReady; }
-    /// Uses each function once. The language, the network and the restarts vary between rounds.
-    /// cycle() rounds cover all combinations.
+    /// Uses each function of the plug-in once. The language, the network and the restarts vary
+    /// between rounds. After cycle() rounds, all combinations have been used.
     void round(int number);
     static int cycle();
 

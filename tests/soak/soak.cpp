@@ -5,7 +5,7 @@
  *
  *   soak [--commands N] [--openings N] [--report FOLDER]
  *
- * Writes soak.png and soak.txt to FOLDER. The exit code is 0 if nothing has grown more than
+ * Writes soak.png and soak.txt to FOLDER. The exit status is 0 if nothing has grown more than
  * permitted and all commands had an outcome, 2 if the run could not be started, and 1 otherwise.
  */
 #include <QApplication>

@@ -24,7 +24,7 @@ enum Kind {
     // Ends the process before the step, as if it were killed. A write counts as two steps. With a
     // fault in the second step, half of the data has been written.
     Kill,
-    Full,    // from this step on, files cannot be created or grow
+    Full,    // from this step on, files cannot be created or enlarged
     ReadOnly // from this step on, nothing can be changed
 };
 

@@ -52,7 +52,7 @@ protected:
     void allowWarning(const QString &part);
     void allowWarning(const char *part) { allowWarning(QString::fromUtf8(part)); }
 
-    /// Returns all lines on all channels that were logged since the test function started or
+    /// Returns the messages of all types that were logged since the test function started or
     /// clearLog() was called.
     QStringList logLines() const;
 
