@@ -310,7 +310,7 @@ void AccountStoreTest::everythingCanBeDeleted()
     QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList());
     store.add(balance("2.00", 1));
     store.setSim(sim(), AccountStore::Keeping::InMemory);
-    store.removeAll(); // also deletes the other database file
+    store.removeAll(); // also deletes the database file, which is not in use
     QVERIFY(!QFile::exists(m_file));
 }
 
@@ -423,7 +423,7 @@ void AccountStoreTest::entriesAreExported()
 void AccountStoreTest::anExportThatFailsKeepsTheOldFile()
 {
     const QString file = writeFile(QLatin1String("a.csv"), "old");
-    QVERIFY(QDir().mkpath(m_file)); // a folder is not a database
+    QVERIFY(QDir().mkpath(m_file)); // a folder in place of the database
     QVERIFY(!exportAccountTo(file, m_file).isEmpty());
     QCOMPARE(contentOf(file), QByteArray("old"));
     QVERIFY(exportAccountTo(folder() + QLatin1String("/a.txt"), m_file)

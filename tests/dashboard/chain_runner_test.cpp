@@ -147,7 +147,7 @@ void ChainRunnerTest::aMissingChoiceStopsTheChain()
 
 void ChainRunnerTest::aReplyWithoutAMenuStopsTheChain()
 {
-    const Commands sent = sentBy({fakeReply(MAIN_MENU)}); // the network has closed the session
+    const Commands sent = sentBy({fakeReply(MAIN_MENU)}); // this reply ends the session
     QVERIFY(sent == Commands{u"*123#"});
     QCOMPARE(runner().state().text,
              QLatin1String("The network opened no menu. Nothing more was sent."));
@@ -228,7 +228,7 @@ void ChainRunnerTest::aQuestionOfTheNetworkStopsTheChain()
     emit monitor().replied(QString(), question);
     QVERIFY(!runner().isRunning() && runner().state().hasStopped());
     QVERIFY(runner().state().text.startsWith(QLatin1String("The network asks something")));
-    fakeSdkRespond(PACKS, 1); // the reply to the chain's step comes too late
+    fakeSdkRespond(PACKS, 1); // a late reply to the step of the chain
     settle();
     QCOMPARE(fakeSdkCommands().size(), std::size_t(2));
 }

@@ -180,7 +180,7 @@ void CodesPageTest::theEditorDoesNotBringThePresetsBack()
     codes().setForm(Form::Wide);
     settle();
     QVERIFY(presets().first()->isVisible());
-    QVERIFY(presets().at(1)->isHidden()); // only the first button was shown again
+    QVERIFY(presets().at(1)->isHidden()); // the test has shown only the first button
 }
 
 void CodesPageTest::aSmallPageScrollsBelowTheStrip()

@@ -251,7 +251,7 @@ void CommandMonitorTest::theTimeOutOfThePluginIsShown()
 {
     monitor().send(QLatin1String("*104#"));
     settle();
-    QTRY_COMPARE(state().kind, Kind::Failed); // the plug-in waits 400 ms in tests
+    QTRY_COMPARE(state().kind, Kind::Failed); // the plug-in's time-out is 400 ms in this test
     QCOMPARE(state().title, QString::fromUtf8("No reply to \u2066*104#\u2069"));
     QVERIFY(state().text.endsWith(QLatin1String("It may have carried the code out all the same.")));
     QVERIFY(monitor().canSend());

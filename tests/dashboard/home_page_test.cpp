@@ -409,7 +409,7 @@ void HomePageTest::chainsAreRenamedAndDeleted()
     naming->accept();
     list->setCurrentItem(list->findItems(QLatin1String("Other"), Qt::MatchStartsWith).first());
     button("Dashboard_DeleteChain")->click();
-    QCOMPARE(m_favourites->chains().size(), 2); // nothing is stored before Save
+    QCOMPARE(m_favourites->chains().size(), 2); // nothing is stored until the user presses Save
     dialog->accept();
     drainEvents();
     QCOMPARE(m_favourites->chains().size(), 1);

@@ -263,7 +263,7 @@ void MainWindowTest::aLanguageWithoutItsFileIsSaid()
 {
     QAction *german = networkAction(QLatin1String("Deutsch"));
     QVERIFY(german);
-    german->setData(QLatin1String("xx")); // as if the language file had been deleted
+    german->setData(QLatin1String("xx")); // a language without a language file
     german->trigger();
     const Banners *banners = m_window->findChild<Banners *>();
     QCOMPARE(banners->banner(Banners::Problem).text,

@@ -38,7 +38,7 @@ public:
     AtAnswer pin(const AtCommand &command);  // answers +CPIN
     AtAnswer imsi() const;                   // answers +CIMI
     AtAnswer file(const AtCommand &command); // answers +CRSM, 3GPP TS 27.007, 8.18
-    AtAnswer raw(const AtCommand &command); // answers +CSIM, but only the requests for the counters
+    AtAnswer raw(const AtCommand &command);  // answers the +CSIM requests for the retry counters
 
 private:
     enum class Lock { None, Pin, Puk };

@@ -396,7 +396,7 @@ void ModemDeviceTest::aDisabledModemEndsTheCommand()
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_DISABLED));
-    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library does not enable it again
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library does not enable the modem again
     QVERIFY(request(u"*100#") != 0);
     QCOMPARE(info().hasForeignSession, 0);
     QCOMPARE(TKSV_Device_Enable(), 0L);
@@ -531,7 +531,7 @@ void ModemDeviceTest::readinessFollowsTheRegistration()
     fake().say("+CREG: 0");
     fake().say("+CGREG: 0");
     QVERIFY(waitUntil([] { return !info().canSendSMS; }));
-    QVERIFY(waitUntil([] { // checks only the last status, because an earlier 7 may arrive late
+    QVERIFY(waitUntil([] { // an earlier status 7 may arrive late, so checks only the last one
         const std::vector<int> told = received().smsStatus.all();
         return !told.empty() && told.back() == 8;
     }));

@@ -167,7 +167,8 @@ void ModemSharingTest::aForeignMenuIsShownAndNotAnswered()
     QCOMPARE(TKSV_Device_CancelRequest() != 0, true);
     QCOMPARE(other.respond("1").text, std::string("One"));
     QVERIFY(waitForForeignSession(false));
-    QCOMPARE(received().responses.all().size(), std::size_t(1)); // the menu was not delivered
+    // The other program's menu was not delivered.
+    QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
 
 void ModemSharingTest::aSessionFoundAtTheStartIsForeign()

@@ -338,7 +338,7 @@ void GeneralSendingTest::keysTypedAfterAnAnswerReachTheCommandEdit()
     QTest::keyClicks(QApplication::focusWidget(), latin1("1"));
     QCOMPARE(commandEdit()->text(), latin1("1"));
     QVERIFY(sendButton()->isEnabled());
-    QVERIFY(combo()->hasFocus()); // the focus proxy of the visible field
+    QVERIFY(combo()->hasFocus()); // the combo box is the focus proxy of the visible field
 }
 
 void GeneralSendingTest::keysTypedAfterALocalFailureReachTheCommandEdit()

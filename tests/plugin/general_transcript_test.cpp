@@ -62,7 +62,7 @@ void GeneralTranscriptTest::lineBreakInACommandIsShownAsBr()
     emit dialog()->preBtnClickedEvent(latin1("*1\n2#"));
     QVERIFY(history()->entries().contains(latin1("*1<br>2#</span></p>")));
     QVERIFY(!history()->entries().contains(QLatin1Char('\n')));
-    QCOMPARE(requests(), QStringList{latin1("*1\n2#")}); // sent unchanged
+    QCOMPARE(requests(), QStringList{latin1("*1\n2#")}); // the line break is sent unchanged
 }
 
 void GeneralTranscriptTest::rightToLeftParagraphsSaySo()

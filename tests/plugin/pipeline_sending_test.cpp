@@ -209,7 +209,7 @@ void PipelineSendingTest::commandSentBySdkThreadTimesOutToo()
 {
     send(3, QStringLiteral("*1#"));
     send(0, QStringLiteral("*2#"));
-    setTimes(5, NO_PATIENCE); // for the second command only
+    setTimes(5, NO_PATIENCE); // applies only to the second command
     fakeSdkRespond(u"one");
     QCOMPARE(nextAnswer(), answer(3, QStringLiteral("one")));
     QCOMPARE(nextAnswer(), answer(0, timeOutText()));

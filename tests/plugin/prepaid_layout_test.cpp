@@ -300,7 +300,7 @@ void PrepaidLayoutTest::componentsStandInOrderOfPos()
 
 void PrepaidLayoutTest::separatorsStandBetweenComponents_data()
 {
-    QTest::addColumn<QList<int>>("order"); // of the four components; -1 hides a component
+    QTest::addColumn<QList<int>>("order"); // the order of the four components; -1 hides a component
     QTest::newRow("as usual") << (QList<int>() << 0 << 1 << 2 << 3);
     QTest::newRow("number first") << (QList<int>() << 1 << 2 << 3 << 0);
     QTest::newRow("number second") << (QList<int>() << 0 << 2 << 3 << 1);

@@ -31,7 +31,7 @@ namespace
 
 const char CALLS[] = "uod"; // the letters stand for UnSDKRegisterEvent, OnDestroy and delete
 const int LONGEST = 5;
-const int EACH_ONCE = 3; // the length in states that take long to reach
+const int EACH_ONCE = 3; // the number of calls in states that take long to reach
 
 enum State {
     NothingShown,
@@ -42,7 +42,7 @@ enum State {
     PrepaidOpen,
     PostpaidOpen,
     SmsOpen,
-    ModalClosed, // closed by the user in the event loop iteration of the shut-down
+    ModalClosed, // closed by the user in the same event loop iteration as the shut-down
     PrepaidClosed,
     PostpaidClosed,
     SmsClosed,

@@ -26,7 +26,7 @@ namespace
 {
 
 const double HOUR = 3600 * 1000.0; // ms
-const int OPENINGS_IN_ROUND = 6;   // page, editor, four frames
+const int OPENINGS_IN_ROUND = 6;   // the page, the editor and four frames
 const int OTHERS_IN_ROUND = 2;     // one without a reply, and one that the device cancels
 const int SAMPLES = 200;
 

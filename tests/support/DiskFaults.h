@@ -14,7 +14,7 @@
  * USSD_DISK_FAULT=kill:STEP:FOLDER, full:STEP:FOLDER or read-only:STEP:FOLDER.
  */
 
-const int KILLED = 77; // exit code of a killed process
+const int KILLED = 77; // the exit status of a killed process
 
 namespace DiskFaults
 {

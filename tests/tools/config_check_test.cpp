@@ -594,7 +594,7 @@ void ConfigCheckTest::longestCommandIsCountedWithItsInput()
 {
     QFETCH(int, length);
     QFETCH(bool, fits);
-    QByteArray content = configuration(); // *101*%s# has six characters besides the input
+    QByteArray content = configuration(); // apart from the input, *101*%s# has six characters
     content.replace("<length>16</length>", "<length>" + QByteArray::number(length) + "</length>");
     QCOMPARE(!rulesOf(check(content)).contains(QLatin1String("command")), fits);
 }
