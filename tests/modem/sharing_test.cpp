@@ -19,7 +19,7 @@ namespace
 {
 
 const char IMEI[] = "350000000000017";
-// Values of the property State of a USSD session.
+// Values of the State property of a USSD session.
 const char ACTIVE[] = "2";
 const char USER_RESPONSE[] = "3";
 const int AT_ONCE = 8;
