@@ -17,7 +17,7 @@ Chain packChain()
     return {"1 GB", "*123#", {{"2", "Internet"}, {"1", "1 GB for 2 EUR"}}};
 }
 
-/// Takes a reply to a code that contains no number.
+/// Records the reply to a code that does not contain a number.
 void sendCode(WalkRecorder &walk, const char *code, const char *reply, bool isMenu)
 {
     walk.takeReply(code, true, true, reply, isMenu);
@@ -36,7 +36,7 @@ QString keysOf(const WalkRecorder &walk)
 
 } // namespace
 
-/** Tests when a step of a chain may be sent, and what is kept of a walk through a menu. */
+/** Tests when a step of a chain may be sent, and which choices of the user are recorded. */
 class ChainsTest : public UssdTest
 {
     Q_OBJECT

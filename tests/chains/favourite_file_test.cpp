@@ -24,7 +24,7 @@ FavouriteFile sample()
 
 } // namespace
 
-/** Tests the file of the favourites, including files that are damaged. */
+/** Tests the favourites file, including damaged files. */
 class FavouriteFileTest : public UssdTest
 {
     Q_OBJECT

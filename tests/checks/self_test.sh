@@ -224,7 +224,8 @@ translations() {
     wrong=1
 }
 
-# translations_have PATTERN: requires that what the script printed and the files match the pattern.
+# translations_have PATTERN: requires that the output of the script or the German language file
+# contains a match of the pattern.
 translations_have() {
     { printf '%s\n' "$said" && tr '\n' ' ' <"$tree/translations/de.ts"; } | grep -qE "$1" && return
     printf 'translations.sh: no "%s" in:\n%s\n' "$1" "$said"

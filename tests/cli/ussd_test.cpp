@@ -26,7 +26,7 @@ const char FAVOURITES[] =
 
 const char DEMONSTRATION[] = "Demonstration: the network is invented; nothing is sent.\n";
 
-/// Returns a scenario in which the device has this state and the network replies to codes.
+/// Returns a scenario in which the device has this state and the network replies to *100#.
 QByteArray scenarioWithState(const QByteArray &state)
 {
     return "[Network]\nOperator=O\nIMSI=001010000000007\nState=" + state +
@@ -41,7 +41,7 @@ QByteArray scenarioWithReply(const QByteArray &reply)
 
 } // namespace
 
-/** Tests `ussd` with simulated networks, as it is used in scripts. */
+/** Tests `ussd` with simulated networks, as a script would use it. */
 class UssdProgramTest : public CliTest
 {
     Q_OBJECT

@@ -80,7 +80,8 @@ void ChainRunnerTest::tearDown()
     CommandTest::tearDown();
 }
 
-/// Runs the chain until nothing happens any more, and returns what was sent.
+/// Runs the chain until it stops, and returns the commands that were sent. The network replies with
+/// `answers`.
 Commands ChainRunnerTest::sentBy(const std::vector<FakeAnswer> &answers)
 {
     fakeSdkScript(answers);

@@ -495,7 +495,7 @@ void CodesPageTest::findWords(const char *words)
     part<QLineEdit>("Dashboard_FindField")->setText(QString::fromUtf8(words));
 }
 
-/// Returns the match that is highlighted as the current one, with the character behind it.
+/// Returns the text that is highlighted as the current match, and the character after it.
 QString CodesPageTest::currentMatch()
 {
     for (const QTextEdit::ExtraSelection &selection : general().history()->extraSelections()) {

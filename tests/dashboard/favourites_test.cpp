@@ -41,7 +41,7 @@ QStringList namesOf(const QList<NamedCode> &codes)
 
 } // namespace
 
-/** Tests the favourites and chains in their file. */
+/** Tests how favourites and chains are stored in their file. */
 class FavouritesTest : public UssdTest
 {
     Q_OBJECT

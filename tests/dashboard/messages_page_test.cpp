@@ -21,7 +21,7 @@ namespace
 const QString SENDER = QLatin1String("Meridian Mobile");
 }
 
-/** Tests the message list, reading, searching, and answering through the general window. */
+/** Tests listing, reading and searching messages, and answering them through the general window. */
 class MessagesPageTest : public CommandTest
 {
     Q_OBJECT

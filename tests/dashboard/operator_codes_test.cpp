@@ -24,7 +24,7 @@ const char SILENT[] = "HomeNetwork=99903";
 } // namespace
 
 /**
- * Tests how the dashboard offers and installs the operator's codes and how the plug-in loads them.
+ * Tests how the dashboard offers and installs the operator's codes, and how the plug-in loads them.
  */
 class OperatorCodesTest : public SimTest
 {

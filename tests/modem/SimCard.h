@@ -19,8 +19,8 @@ struct SimData {
 };
 
 /**
- * The AT commands of a SIM card: the PIN lock, the retry counters, and the files that ModemManager
- * reads.
+ * Implements the AT commands for a SIM card: the PIN lock, the retry counters, and the files that
+ * ModemManager reads.
  */
 class SimCard
 {

@@ -401,7 +401,7 @@ void ModemDeviceTest::aDisabledModemEndsTheCommand()
     QCOMPARE(info().hasForeignSession, 0);
     QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
-    // This command does not have to wait, because the first one has been cancelled.
+    // This command does not have to wait, because the first command has been cancelled.
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 

@@ -355,7 +355,8 @@ void EndToEndTest::aNetworkThatIsSilent()
     openPage();
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
-    // This time, the daemon does not send a cancellation to the modem.
+    // This time, the daemon does not send a cancellation to the modem, because it sends only the
+    // first one.
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }

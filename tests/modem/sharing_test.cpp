@@ -265,7 +265,7 @@ void ModemSharingTest::cancelDoesNotEndAForeignSession()
         TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
         received().clear();
         TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
-        // By now, the earlier call must have returned.
+        // By now, the daemon must have accepted or refused *133#.
         QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_IN_USE));
         received().clear();
         QVERIFY(other.waitForProperty("State", USER_RESPONSE));

@@ -1,6 +1,6 @@
 #include "GeneralDialogTest.h"
 
-/** Tests the transcript of the general dialog, the payment edit, the language and closing. */
+/** Tests the general dialog: the transcript, the payment field, language changes, and closing. */
 class GeneralTranscriptTest : public GeneralDialogTest
 {
     Q_OBJECT

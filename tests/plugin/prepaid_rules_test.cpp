@@ -22,7 +22,7 @@ TopUpInputLimits rules(int length, int minlenth, const char *limitText = "0-9")
 
 } // namespace
 
-/** Tests the rules of the account window without the window. */
+/** Tests the rules of the account window without creating the window. */
 class PrepaidRulesTest : public UssdTest
 {
     Q_OBJECT

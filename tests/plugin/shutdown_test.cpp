@@ -335,7 +335,7 @@ void ShutdownTest::insideTheCloseEventOfAFrame_data()
 }
 
 /// Connects to the dialog before the service does. The service connects again each time a window is
-/// shown, so showing it again changes the order.
+/// shown, so showing the window again changes the order of the connections.
 void ShutdownTest::hearDialogIn(QWidget *frame, int type)
 {
     for (QWidget *widget : frame->findChildren<QWidget *>()) {

@@ -11,8 +11,8 @@
 using namespace Formats;
 using namespace Provisioning;
 
-/// Tests how an operator's codes are distributed to the windows, and the files that are generated
-/// for them.
+/// Tests how an operator's codes are distributed among the windows, and the files that are
+/// generated for them.
 class ProvisionPlanTest : public UssdTest
 {
     Q_OBJECT

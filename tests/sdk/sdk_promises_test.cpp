@@ -696,7 +696,7 @@ void SdkPromises::lostDeviceRaisesItsEvent()
     QFETCH(int, event);
     QCOMPARE(request(code.toStdU16String()), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
-    // 8 when the device disappears, 7 when it returns.
+    // Status 8 is reported when the device disappears, and status 7 when it returns.
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{8, 7}));
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{event});
@@ -772,7 +772,7 @@ void SdkPromises::smsResultNamesTheMessage()
     QFETCH(QString, number);
     QFETCH(QString, text);
     QFETCH(int, result);
-    // Also frees the record.
+    // sendSms() also frees the record.
     QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()), 0L);
     QVERIFY(received().smsResults.waitFor(1));
     const SmsResult got = received().smsResults.all()[0];
