@@ -354,7 +354,8 @@ void AccountStoreTest::aFileOfALaterVersionStaysAsItIs()
     store.add(balance("2.00", 1));
     QCOMPARE(problems.size(), 1);
     QCOMPARE(contentOf(m_file), before);
-    QCOMPARE(store.newestBalance().reading.amount->units, qint64(20000)); // kept in memory only
+    // The value is kept only in memory.
+    QCOMPARE(store.newestBalance().reading.amount->units, qint64(20000));
 }
 
 void AccountStoreTest::aKillKeepsTheFileWhole()

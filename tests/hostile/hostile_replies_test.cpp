@@ -352,7 +352,7 @@ void HostileRepliesTest::noNetworkLibraryIsLoaded()
     showEverywhere(latin1("<img src='http://127.0.0.1:1/x.png'>"));
     const QByteArray libraries = loadedLibraries();
     const QByteArray qt = "libQt" + QByteArray::number(QT_VERSION_MAJOR);
-    QVERIFY(libraries.contains(qt + "Widgets")); // proves that libraries are found
+    QVERIFY(libraries.contains(qt + "Widgets")); // proves that the list contains libraries of Qt
     QVERIFY(!libraries.contains(qt + "Network"));
 }
 

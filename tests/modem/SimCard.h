@@ -12,7 +12,7 @@ namespace FakeModems
 struct SimData {
     std::string imsi;
     std::string iccid = "8949000000000000017"; // 19 or 20 digits
-    std::string operatorName;                  // the service provider name, or empty
+    std::string operatorName;                  // the service provider name, or an empty string
     int mncLength = 2;
     std::string pin = "0000";
     std::string puk = "12345678";

@@ -685,7 +685,7 @@ void EndToEndTest::aSignalEndsTheSessionOfSend()
     QCOMPARE(run.code, 128 + number);
     QVERIFY(run.error.contains(QLatin1String("The command was cancelled.")));
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
-    QCOMPARE(sendRun("*100#").code, 0); // no session is open
+    QCOMPARE(sendRun("*100#").code, 0); // the cancelled command has not left a session open
 }
 
 void EndToEndTest::aMenuThatSendLeavesOpenIsEnded()

@@ -395,7 +395,7 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     for (const char *section :
          {"PrePostDiffer", "Prepaid", "Postpaid", "send", "recevie", "cmdEdit", "autoUSSD"})
         QTest::newRow(section) << QByteArray(section) << true;
-    // The first elements with these names are in the "send" section.
+    // The parser takes these elements from the "send" section, which contains the first ones.
     for (const char *child : {"yHeight", "yOffset", "color"})
         QTest::newRow(child) << QByteArray(child) << true;
     for (const char *child : {"readonlycolor", "commoncolor", "headcolor"})

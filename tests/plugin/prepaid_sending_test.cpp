@@ -355,7 +355,7 @@ void PrepaidSendingTest::failedTopUpIsToldLikeAnAnswer()
 
 void PrepaidSendingTest::returnKeySendsOnce()
 {
-    refuseAll(1); // a refused command leaves the button enabled
+    refuseAll(1); // the button stays enabled, so a second command could be sent
     configure(only(chargeItem(0)));
     open();
     type(pin());

@@ -261,7 +261,7 @@ void SdkSession::stopDropsWhatWaits()
 
 void SdkSession::stopDoesNotWaitForEver()
 {
-    // As at program exit, these objects are never destroyed, because the thread still uses them.
+    // These objects are never destroyed, because the thread still uses them, as at program exit.
     static Gate gate;
     static Gate left;
     static auto *service = new EventService("test");

@@ -20,7 +20,7 @@ struct SoakLoad {
 /**
  * A host that uses the plug-in like a user over many months: it changes languages, opens windows,
  * sends codes with and without replies, removes devices and changes SIM cards. Everything runs in
- * this process, with the time of SoakClock. All functions must be called from the GUI thread.
+ * this process and uses SoakClock as its clock. All functions must be called from the GUI thread.
  */
 class SoakHost : public QObject
 {

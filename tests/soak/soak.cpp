@@ -33,7 +33,7 @@ const int SAMPLES = 200;
 struct Order {
     qint64 commands = 2000;
     qint64 openings = 200;
-    QString report; // a folder; empty for no report
+    QString report; // the folder for the report; if empty, no report is written
 
     int rounds() const { return int((openings + OPENINGS_IN_ROUND - 1) / OPENINGS_IN_ROUND); }
     SoakLoad load() const;
