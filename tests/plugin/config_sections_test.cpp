@@ -375,7 +375,7 @@ void ConfigSectionsTest::deepNestingIsReadToItsEnd()
                        fourItems(), "<name>" + nested("deep") + "</name>" + looks()));
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*1#"));
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*2#"));
-    // This section follows the second deeply nested element.
+    // The "send" section is found, although it follows the second deeply nested element.
     QCOMPARE(look(CHAR_SET_SEND).yHeight, 20);
 }
 

@@ -254,7 +254,7 @@ void GeneralSendingTest::answerOfAnotherComponentIsIgnored()
     emit USSDLogic::GetUSSDLogicInstance()->responseReceived(component, latin1("not mine"));
     QCOMPARE(shownLines().count(), 1);
     QVERIFY(isWaiting());
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged("OnResponseReceived Exit: USSDGeneralDlg no need to handle"), 2);
 }
 

@@ -256,7 +256,7 @@ void PipelineClearingTest::constructionLogsEachRegistration()
                      QStringLiteral(": Calling TKSV_SMSSrv_RegCallBack ()"),
                      QStringLiteral(": TKSV_SMSSrv_RegCallBack () returned 0"),
                      QStringLiteral(" Exit")}));
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     const QString before = QStringLiteral(" before calling TKSV_USSDSrv_RegisterUSSDCallback()");
     QCOMPARE(
         linesOf("registerUSSDCallback"),

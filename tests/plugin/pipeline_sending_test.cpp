@@ -293,7 +293,7 @@ void PipelineSendingTest::nullDataLeavesListAndTimer()
     fakeSdkRespondNull();
     QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged("Fail Exit: Response data is NULL"), 2);
     USSDLogic::ClearQueuedCmds();
     QVERIFY(sendWaitsItsTime()); // the timer is still running

@@ -358,7 +358,7 @@ void PrepaidDetectionTest::withoutAContainerItIsLogged()
     expectWarning(": sendNotify: Plugin container is null ");
     ask();
     networkSays(digitPatternReply());
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged(": sendNotify: Plugin container is null "), 2);
 }
 

@@ -318,7 +318,7 @@ void ProfileListTest::missingUserFileKeepsTheSystemProfiles()
 {
     writeSystemProfiles(profileFile(profileItem("A", "*1#")));
     QCOMPARE(codes(loaded()), QStringList{latin1("system *1#")});
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged("load Exit: XML File is not opened"), 2);
     QCOMPARE(timesLogged(latin1("load Enter: xmlFilePath = ") + userFile()), 1);
 }
