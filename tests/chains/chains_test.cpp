@@ -17,7 +17,7 @@ Chain packChain()
     return {"1 GB", "*123#", {{"2", "Internet"}, {"1", "1 GB for 2 EUR"}}};
 }
 
-/// Takes a reply to a code that contains no number.
+/// Records the reply to a code that does not contain a number.
 void sendCode(WalkRecorder &walk, const char *code, const char *reply, bool isMenu)
 {
     walk.takeReply(code, true, true, reply, isMenu);
@@ -36,7 +36,7 @@ QString keysOf(const WalkRecorder &walk)
 
 } // namespace
 
-/** Tests when a step of a chain may be sent, and what is kept of a walk through a menu. */
+/** Tests when a step of a chain may be sent, and which choices of the user are recorded. */
 class ChainsTest : public UssdTest
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ void ChainsTest::eachStepIsSentWhileItIsOffered()
     open.takeReply(MAIN_MENU, true);
     open.takeReply(PACKS, true);
     QVERIFY(open.takeReply("Sure?\n1 Yes\n2 No", true).verdict ==
-            Verdict::Done); // left to the user
+            Verdict::Done); // the last menu is left to the user
 }
 
 void ChainsTest::aChangedLineStopsTheRun_data()
@@ -105,13 +105,14 @@ void ChainsTest::aChangedLineStopsTheRun()
     QCOMPARE(step.verdict == Verdict::Changed, !isSent);
     QCOMPARE(QString::fromStdString(step.offered), offered);
     QCOMPARE(step.expected, std::string("Internet"));
-    QCOMPARE(step.number, std::size_t(2)); // after the code
+    QCOMPARE(step.number, std::size_t(2)); // the code is step 1
 }
 
 void ChainsTest::aReplyWithoutAMenuStopsTheRun()
 {
     ChainRun run(packChain());
-    QVERIFY(run.takeReply(MAIN_MENU, false).verdict == Verdict::NoMenu); // it only looks like one
+    // The network does not wait for an answer.
+    QVERIFY(run.takeReply(MAIN_MENU, false).verdict == Verdict::NoMenu);
     QCOMPARE(run.stepsSent(), std::size_t(0));
 }
 
@@ -154,7 +155,8 @@ void ChainsTest::anAnswerThatIsNoChoiceIsNotRecorded()
     ::answer(walk, "2", menu.toUtf8(), true);
     ::answer(walk, answer.toUtf8(), PACKS, true);
     ::answer(walk, "1", BOUGHT, false);
-    QCOMPARE(keysOf(walk), QString::fromUtf8("*123# › 2")); // nothing after the answer, either
+    // Choices after this answer are not recorded either.
+    QCOMPARE(keysOf(walk), QString::fromUtf8("*123# › 2"));
 }
 
 void ChainsTest::aCodeWithANumberIsNotRecorded()
@@ -191,7 +193,7 @@ void ChainsTest::aMenuThatTheUserEndsEndsTheWalk()
     answer(walk, "2", PACKS, true);
     walk.end();
     QCOMPARE(keysOf(walk), QString::fromUtf8("*123# › 2"));
-    answer(walk, "1", BOUGHT, false); // no menu was open, so this is no answer
+    answer(walk, "1", BOUGHT, false); // not recorded, because no menu is open
     QCOMPARE(keysOf(walk), QString::fromUtf8("*123# › 2"));
     walk.forget();
     QCOMPARE(keysOf(walk), QString());

@@ -24,7 +24,7 @@ FavouriteFile sample()
 
 } // namespace
 
-/** Tests the file of the favourites, including files that are damaged. */
+/** Tests the favourites file, including damaged files. */
 class FavouriteFileTest : public UssdTest
 {
     Q_OBJECT
@@ -58,7 +58,8 @@ void FavouriteFileTest::noSelectionIsNotAnEmptySelection()
     const FavouriteFile read = FavouriteFile::fromJson(file.toJson());
     QVERIFY(read.networks.at("26201").areSelected);
     QVERIFY(!read.networks.at("unknown").areSelected);
-    QVERIFY(FavouriteFile::fromJson(std::string()).isWhole); // there is no file yet
+    // An empty string stands for a missing file.
+    QVERIFY(FavouriteFile::fromJson(std::string()).isWhole);
 }
 
 void FavouriteFileTest::aDamagedFileIsNoticed_data()

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks that docs/testing.md names every label of the tests, every script in tests/checks that is a test,
-# and every preset.
+# Checks that docs/testing.md contains every test label, every script in tests/checks that is a
+# test, and every preset.
 . "$(dirname "$0")/common.sh"
 page=docs/testing.md
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Compiles the code that Qt 4 hosts use with the headers of Qt 4, without linking it:
+# Compiles the code that Qt 4 hosts use, with the Qt 4 headers and without linking it:
 #     USSD_QT4_INCLUDE=DIR ./test -R qt4_headers
 # DIR is the include folder of a Qt 4 installation, which contains QtCore/ and QtGui/. The check is
 # skipped if the variable is not set, because Debian does not provide Qt 4. The compiler is $CXX, by

@@ -28,7 +28,7 @@ parser_input='QXmlStreamReader [A-Za-z_]+[({]|\.(setDevice|addData)\('
 
 algorithm='\bstd::((stable_)?sort|find(_if)?|(any|all|none)_of|(lower|upper)_bound|unique|reverse|count(_if)?)\('
 
-# Headers that declare the namespace Qt in every version of Qt.
+# Headers that declare the Qt namespace in every version of Qt.
 declares_qt='#include (<Qt>|<Q[A-Za-z]*(Widget|Dialog|Edit|Label|Button|Frame|Application|Delegate)>|")'
 
 while IFS= read -r hit; do
@@ -51,7 +51,7 @@ while IFS= read -r file; do
     fi
     case $file in
     *.h)
-        # In Qt 4, only headers of widgets declare the namespace Qt.
+        # In Qt 4, only headers of widgets declare the Qt namespace.
         if grep -qE '\<Qt::' <<<"$code" && ! grep -qE "$declares_qt" <<<"$code"; then
             complain "$file: uses Qt:: without <Qt> or the header of a widget"
         fi

@@ -176,7 +176,8 @@ bash
 bash'
 finds packages 'bash stands in no section' packages.txt <<<'bash'
 finds packages '\[rum\] is no section' packages.txt <<<'[rum]'
-# translations.sh: adds missing keys, removes others, and creates the file of a language.
+# Tests that translations.sh adds missing keys, removes unused keys, and creates the file of a new
+# language.
 fresh_tree
 write translations/en.ts <<'TS'
 <TS version="2.1" language="en">
@@ -223,7 +224,8 @@ translations() {
     wrong=1
 }
 
-# translations_have PATTERN: requires that what the script printed and the files match the pattern.
+# translations_have PATTERN: requires that the output of the script or the German language file
+# contains a match of the pattern.
 translations_have() {
     { printf '%s\n' "$said" && tr '\n' ' ' <"$tree/translations/de.ts"; } | grep -qE "$1" && return
     printf 'translations.sh: no "%s" in:\n%s\n' "$1" "$said"

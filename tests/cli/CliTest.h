@@ -26,14 +26,14 @@ public:
     /// Replaces a standard stream of the program with a file descriptor. Must be called before
     /// start().
     void replaceStream(int stream, int file) { m_streams.insert(stream, file); }
-    /// Makes start() run the program with this signal ignored, like nohup.
+    /// Makes start() run the program with this signal ignored, as nohup does with SIGHUP.
     void ignoreSignal(int signal) { m_ignoredSignal = signal; }
     void start();
     /// Waits until the string appears on standard output or standard error.
     bool waitForOutput(const QString &text);
     bool waitForError(const QString &text);
     void sendSignal(int signal);
-    /// Waits until the program has ended.
+    /// Waits until the program has ended and returns its result.
     Run finish();
 
 #if QT_VERSION < 0x060000
@@ -79,8 +79,7 @@ protected:
     static QStringList words(const char *line);
 };
 
-/// Returns one JSON object for each line of the output. The object is empty if the line is not
-/// JSON.
+/// Returns one JSON object for each line of the output. If a line is not JSON, its object is empty.
 QList<QJsonObject> objectsIn(const QString &output);
 
 /// Compares the exit code. If it differs, prints the output of the program.

@@ -53,7 +53,8 @@ std::string textOf(int reason, bool wasNotSent)
 
 } // namespace
 
-/// Tests all characters of the basic multilingual plane, and one character outside this plane.
+/// Tests that safe() and terminalText() return the same string for each character of the basic
+/// multilingual plane and for a character outside this plane.
 void PartsTest::eachCharacterIsAsSafeAsInTheDashboard()
 {
     for (int unit = 1; unit < 0x10000; ++unit) {

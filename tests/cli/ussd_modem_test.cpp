@@ -218,7 +218,7 @@ void UssdModemTest::anUnansweredMenuIsEndedOnTheModem()
     QVERIFY(isIdle());
 }
 
-/// Writes the file that a dashboard would have written.
+/// Writes a favourites file with one chain, as the dashboard would.
 void UssdModemTest::writeChain(const QByteArray &network, const QByteArray &lastChoice)
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(folder()));
@@ -246,7 +246,7 @@ void UssdModemTest::aChainStopsAtAChangedMenu()
     const Run result = run("run Pack");
     COMPARE_EXIT(result, EXIT_MENU_OPEN);
     QVERIFY2(result.error.contains(latin1("Stopped at step 3 of 3")), qPrintable(result.error));
-    QCOMPARE(modem().timesReceived(INITIATE), 2); // nothing was bought
+    QCOMPARE(modem().timesReceived(INITIATE), 2); // the choice that would buy something is not sent
     QVERIFY(modem().waitForCommand(CANCEL));
     QVERIFY(isIdle());
 }
@@ -327,8 +327,8 @@ void UssdModemTest::aSignalEndsTheMenuOfAChat()
     QVERIFY(isIdle());
 }
 
-/// Tests a signal that arrives while `ussd` is writing the menu. `ussd` must not send the answer,
-/// because the answer might buy something.
+/// Tests that `ussd` does not send the answer if a signal arrives while it is writing the menu. The
+/// answer might buy something.
 void UssdModemTest::afterASignalNoAnswerIsSent()
 {
     const FullPipe pipe;

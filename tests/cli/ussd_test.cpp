@@ -27,7 +27,7 @@ const char FAVOURITES[] =
 
 const char DEMONSTRATION[] = "Demonstration: the network is invented; nothing is sent.\n";
 
-/// Returns a scenario in which the device has this state and the network replies to codes.
+/// Returns a scenario in which the device has this state and the network replies to *100#.
 QByteArray scenarioWithState(const QByteArray &state)
 {
     return "[Network]\nOperator=O\nIMSI=001010000000007\nState=" + state +
@@ -42,7 +42,7 @@ QByteArray scenarioWithReply(const QByteArray &reply)
 
 } // namespace
 
-/** Tests `ussd` with simulated networks, as it is used in scripts. */
+/** Tests `ussd` with simulated networks, as a script would use it. */
 class UssdProgramTest : public CliTest
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ void UssdProgramTest::setUp()
     qputenv("XDG_DATA_HOME", QFile::encodeName(folder()));
 }
 
-/// Writes the file that a dashboard would have written.
+/// Writes the favourites file, as the dashboard would.
 void UssdProgramTest::writeFavourites(const QByteArray &json)
 {
     QVERIFY(QDir().mkpath(folder() + QLatin1String("/ussd-dashboard")));
@@ -473,9 +473,9 @@ void UssdProgramTest::favouritesArePrinted()
                                                      "Balance\t*100#\tdemonstration\n")),
              qPrintable(result.out));
     QVERIFY(result.out.contains(QString::fromUtf8("Way\t*125# › 2 › 1\tdemonstration\n")));
-    QCOMPARE(result.error, QString()); // no device is used
+    QCOMPARE(result.error, QString()); // no device is used, so no demonstration is announced
     const QList<QJsonObject> objects = objectsIn(run("run --list --json").out);
-    QCOMPARE(objects.size(), 11); // one object for each
+    QCOMPARE(objects.size(), 11); // one object for each favourite and chain
     QCOMPARE(objects.first().value(latin1("name")).toString(), latin1("Foreign"));
     QCOMPARE(objects.first().value(latin1("network")).toString(), latin1("26201"));
 }
@@ -526,7 +526,7 @@ void UssdProgramTest::aChainStopsAtAChangedMenu()
     Run result = run("run Changed");
     COMPARE_EXIT(result, EXIT_MENU_OPEN);
     QCOMPARE(result.out,
-             latin1("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n2 Back\n")); // no third reply
+             latin1("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n2 Back\n")); // step 3 is not sent
     QVERIFY2(result.error.contains(
                  latin1("Stopped at step 3 of 3: the menu no longer offers 'Deep' on key 1, but "
                         "'Deeper'. Nothing more was sent, and the session was ended.")),
@@ -641,7 +641,7 @@ void UssdProgramTest::aMenuInTheInputIsEnded()
     QVERIFY(!result.out.contains(QLatin1String("balance")));
 }
 
-/// Tests that the program does not wait for the end of the line before it fails.
+/// Tests that the program rejects a line that is too long, without waiting for the end of the line.
 void UssdProgramTest::anEndlessLineIsNoCode()
 {
     UssdProcess process(words("send -"));
@@ -684,7 +684,8 @@ void UssdProgramTest::aClosedPipeIsAFailure()
     COMPARE_EXIT(process.finish(), EXIT_NOT_WRITTEN);
 }
 
-/// Tests that the program does not open any other file with the descriptor of the closed stream.
+/// Tests that the program fails if standard output is closed. Another file that the program opens
+/// must not get the descriptor of the closed stream.
 void UssdProgramTest::aClosedStandardOutputIsAFailure()
 {
     QProcess shell;
@@ -750,8 +751,8 @@ void UssdProgramTest::afterASignalNothingIsSent_data()
     QTest::newRow("chat") << QByteArray("chat *123#") << QByteArray("1\n") << QByteArray();
 }
 
-/// Tests a signal that arrives while the first reply is being written. The program must not send
-/// the next code or answer, because it might buy something.
+/// Tests that the program does not send the next code or answer if a signal arrives while it is
+/// writing the first reply. The next code or answer might buy something.
 void UssdProgramTest::afterASignalNothingIsSent()
 {
     QFETCH(QByteArray, line);
@@ -811,7 +812,7 @@ void UssdProgramTest::aChatSurvivesAFailure()
     QVERIFY2(result.error.contains(QLatin1String("quote")), qPrintable(result.error));
 }
 
-/// Tests the answer to a network-initiated message.
+/// Tests that a network-initiated message can be answered in a chat.
 void UssdProgramTest::aChatAnswersTheNetwork()
 {
     const QByteArray push = "[Push offer]\nAfter=100\nReply=A gigabyte for 1 EUR?\n"

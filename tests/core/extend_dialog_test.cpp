@@ -14,7 +14,7 @@
 namespace
 {
 
-const QSize LARGE(3000, 2000); // larger than the screen of the platform "offscreen"
+const QSize LARGE(3000, 2000); // larger than the screen of the "offscreen" platform
 
 QRect screenRect()
 {

@@ -20,7 +20,8 @@ QString pluginText(const char *key)
 }
 
 /**
- * Looks up translations in a separate thread, and counts results that are not from any language.
+ * Looks up translations in a separate thread, and counts results that do not belong to any
+ * language.
  */
 class Reader
 {
@@ -229,7 +230,7 @@ void LanguagesTest::everyDamageIsSeen_data()
 }
 
 /// Tests that damage to any byte is detected. Before the checksum was added, looking up a
-/// translation in a damaged file crashed the program in about one of a hundred cases.
+/// translation in a damaged file crashed the program in about one in a hundred cases.
 void LanguagesTest::everyDamageIsSeen()
 {
     QFETCH(QByteArray, content);

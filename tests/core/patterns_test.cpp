@@ -122,7 +122,8 @@ void PatternsTest::patternMeansTheSame()
     QCOMPARE(position, row.state == QValidator::Invalid ? int(text.size()) : 0);
 }
 
-/// Types the text one character at a time, as a user would.
+/// Tests that a line edit accepts only the characters that its validator permits. The characters
+/// are typed one at a time, as a user would type them.
 void PatternsTest::fieldTakesWhatTheValidatorAccepts()
 {
     QLineEdit edit;

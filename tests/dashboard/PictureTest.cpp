@@ -13,7 +13,7 @@ const int EM = 14; // in pixels
 const int SMALLEST_FILE = 0;
 
 // Versions of the font library differ slightly in how they draw the edges of letters.
-const int SAME_SHADE = 40;      // of 255
+const int SAME_SHADE = 40;      // the permitted difference of a colour component (0 to 255)
 const double TOLERANCE = 0.002; // share of the pixels that may differ
 
 bool isAccepting()

@@ -7,10 +7,10 @@
 #include "UssdTest.h"
 
 /**
- * The base class for tests that compare widgets with the pictures in the folder "pictures". The
+ * The base class for tests that compare widgets with the pictures in the "pictures" folder. The
  * tests use the style of the dashboard and a font that is available on every Debian system.
  *
- * If the environment variable USSD_ACCEPT_PICTURES is set, the tests write the pictures instead.
+ * If the USSD_ACCEPT_PICTURES environment variable is set, the tests replace the pictures.
  */
 class PictureTest : public UssdTest
 {

@@ -12,11 +12,11 @@ struct Run {
     bool isDemonstration = false;
 };
 
-/// Runs the program whose path is in the test's environment variable $PROGRAM_FILE.
+/// Runs the program whose path is in the $PROGRAM_FILE environment variable of the test.
 Run run(const QStringList &arguments, const QProcessEnvironment &environment);
 /// Runs the program. The arguments are separated by single spaces.
 Run run(const char *line);
-/// Returns the environment for a run without a display and with the simulated network
+/// Returns the environment for a run without a display and with the simulated network of
 /// quick.scenario.
 QProcessEnvironment quickNetwork();
 /// Returns the environment for a run without a modem and without a simulated network.

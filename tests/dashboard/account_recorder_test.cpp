@@ -114,7 +114,7 @@ void AccountRecorderTest::ownCodesAreAdded()
     QVERIFY(codes.all.last().isOwn);
 }
 
-/// Tests the codes that decide which digits the history hides.
+/// Tests that the codes by which the history decides which digits to hide include all codes.
 void AccountRecorderTest::everyCodeIsATemplate()
 {
     m_files.userProfiles =

@@ -339,7 +339,7 @@ void AccountStoreTest::everythingCanBeDeleted()
     QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList());
     store.add(balance("2.00", 1));
     store.setSim(sim(), AccountStore::Keeping::InMemory);
-    store.removeAll(); // also deletes the other database file
+    store.removeAll(); // also deletes the database file, which is not in use
     QVERIFY(!QFile::exists(m_file));
 }
 
@@ -383,7 +383,8 @@ void AccountStoreTest::aFileOfALaterVersionStaysAsItIs()
     store.add(balance("2.00", 1));
     QCOMPARE(problems.size(), 1);
     QCOMPARE(contentOf(m_file), before);
-    QCOMPARE(store.newestBalance().reading.amount->units, qint64(20000)); // kept in memory only
+    // The value is kept only in memory.
+    QCOMPARE(store.newestBalance().reading.amount->units, qint64(20000));
 }
 
 void AccountStoreTest::aKillKeepsTheFileWhole()
@@ -417,7 +418,7 @@ void AccountStoreTest::theKeyOfASimDoesNotTellIt()
     QCOMPARE(QFile::permissions(salt) & (QFile::ReadGroup | QFile::ReadOther),
              QFile::Permissions());
     QVERIFY(QFile::remove(salt));
-    const QString other = simKey(imsi, m_folder); // of another installation
+    const QString other = simKey(imsi, m_folder); // a new salt, as in another installation
     QVERIFY(other != key);
     QVERIFY(forgetSimKeys(m_folder));
     QVERIFY(!QFile::exists(salt));
@@ -452,7 +453,7 @@ void AccountStoreTest::entriesAreExported()
 void AccountStoreTest::anExportThatFailsKeepsTheOldFile()
 {
     const QString file = writeFile(QLatin1String("a.csv"), "old");
-    QVERIFY(QDir().mkpath(m_file)); // a folder is not a database
+    QVERIFY(QDir().mkpath(m_file)); // a folder in place of the database
     QVERIFY(!exportAccountTo(file, m_file).isEmpty());
     QCOMPARE(contentOf(file), QByteArray("old"));
     QVERIFY(exportAccountTo(folder() + QLatin1String("/a.txt"), m_file)

@@ -25,7 +25,7 @@ QString plain(QString text)
 
 } // namespace
 
-/** Tests the ends of a chain with the plug-in's window, and what is recorded of the user's walk. */
+/** Tests how a chain in the plug-in's window ends, and which choices of the user are recorded. */
 class ChainRunnerTest : public CommandTest
 {
     Q_OBJECT
@@ -80,7 +80,8 @@ void ChainRunnerTest::tearDown()
     CommandTest::tearDown();
 }
 
-/// Runs the chain until nothing happens any more, and returns what was sent.
+/// Runs the chain until it stops, and returns the commands that were sent. The network replies with
+/// `answers`.
 Commands ChainRunnerTest::sentBy(const std::vector<FakeAnswer> &answers)
 {
     fakeSdkScript(answers);
@@ -132,7 +133,7 @@ void ChainRunnerTest::aChangedMenuStopsTheChain()
     QCOMPARE(plain(runner().state().text),
              QString::fromUtf8(
                  "Key 1 is now “1 GB for 20 EUR”, not “1 GB for 2 EUR”. Nothing more was sent."));
-    QCOMPARE(state().kind, Kind::MenuOpen); // for the user
+    QCOMPARE(state().kind, Kind::MenuOpen); // the menu stays open for the user
     QVERIFY(readSession().waitsForAnswer());
 }
 
@@ -147,7 +148,7 @@ void ChainRunnerTest::aMissingChoiceStopsTheChain()
 
 void ChainRunnerTest::aReplyWithoutAMenuStopsTheChain()
 {
-    const Commands sent = sentBy({fakeReply(MAIN_MENU)}); // the network has closed the session
+    const Commands sent = sentBy({fakeReply(MAIN_MENU)}); // this reply ends the session
     QVERIFY(sent == Commands{u"*123#"});
     QCOMPARE(runner().state().text,
              QLatin1String("The network opened no menu. Nothing more was sent."));
@@ -208,7 +209,7 @@ void ChainRunnerTest::aLostDeviceEndsTheChain()
 void ChainRunnerTest::anotherDeviceEndsTheChain()
 {
     sentBy({fakeReply(MAIN_MENU, 1), fakeSilence()});
-    TKSV_USSDSrv_Release(nullptr); // as the SDK does when it changes the device
+    TKSV_USSDSrv_Release(nullptr); // as the SDK does when it switches to another device
     monitor().forget();
     fakeSdkRaiseDeviceEvent(TKSV_DEV_EVENT_GONE);
     settle();
@@ -228,7 +229,7 @@ void ChainRunnerTest::aQuestionOfTheNetworkStopsTheChain()
     emit monitor().replied(QString(), question);
     QVERIFY(!runner().isRunning() && runner().state().hasStopped());
     QVERIFY(runner().state().text.startsWith(QLatin1String("The network asks something")));
-    fakeSdkRespond(PACKS, 1); // the reply to the chain's step comes too late
+    fakeSdkRespond(PACKS, 1); // a late reply to the step of the chain
     settle();
     QCOMPARE(fakeSdkCommands().size(), std::size_t(2));
 }
@@ -246,19 +247,21 @@ void ChainRunnerTest::theUsersCodeEndsTheChain()
     TKSV_USSDSrv_Request(&request, &status); // the same code, from another window
     settle();
     settle();
-    QVERIFY(!runner().isRunning() && !runner().state().hasStopped()); // the user knows why
+    // The chain has ended without a message.
+    QVERIFY(!runner().isRunning() && !runner().state().hasStopped());
     QVERIFY(fakeSdkCommands() == (Commands{u"*123#", u"*123#"}));
 }
 
 void ChainRunnerTest::whatTheUserTypesStopsTheChain()
 {
     fakeSdkScript({fakeReply(MAIN_MENU, 1), fakeReply(PACKS, 1)});
-    // The user is faster than the chain: the field accepts input, and the chain has not looked yet.
+    // The user is faster than the chain: the field accepts input, but the chain has not checked it
+    // yet.
     const auto connection = connect(&monitor(), &CommandMonitor::changed, this, [this] {
         if (state().kind == Kind::MenuOpen && page().commandEdit()->isEnabled())
             typeInto(page().commandEdit(), QLatin1String("0"));
     });
-    ChainRunner late(&monitor()); // connected after the user
+    ChainRunner late(&monitor()); // notified after the simulated user
     m_runner.reset();
     QVERIFY(late.run(packChain()));
     settle();
@@ -311,7 +314,7 @@ void ChainRunnerTest::aWalkOfTheUserIsRecorded()
 {
     fakeSdkScript({fakeReply(MAIN_MENU, 1), fakeReply(PACKS, 1), fakeReply(BOUGHT)});
     sendAll({QLatin1String("*123#"), QLatin1String("2")});
-    QVERIFY(m_watcher->walk().steps.empty()); // it has not ended
+    QVERIFY(m_watcher->walk().steps.empty()); // the walk has not ended yet
     sendAll({QLatin1String("1")});
     QVERIFY(m_watcher->walk().isSameWalk(packChain()));
     m_watcher->forget();

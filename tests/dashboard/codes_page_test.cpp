@@ -180,7 +180,7 @@ void CodesPageTest::theEditorDoesNotBringThePresetsBack()
     codes().setForm(Form::Wide);
     settle();
     QVERIFY(presets().first()->isVisible());
-    QVERIFY(presets().at(1)->isHidden()); // only the first button was shown again
+    QVERIFY(presets().at(1)->isHidden()); // the test has shown only the first button
 }
 
 void CodesPageTest::aSmallPageScrollsBelowTheStrip()
@@ -321,7 +321,7 @@ void CodesPageTest::theFooterOfTheHistoryStays()
     QVERIFY(list()->viewport()->geometry().bottom() < before.y());
     const int rows =
         list()->viewport()->height() / list()->visualRect(list()->model()->index(0, 0)).height();
-    QVERIFY(rows >= 8); // the footer takes no row away
+    QVERIFY(rows >= 8); // the footer does not reduce the number of visible rows
     list()->button()->click();
     QVERIFY(m_history->codes().isEmpty() && !list()->isVisible());
 }
@@ -370,7 +370,8 @@ void CodesPageTest::aChainIsInTheHistory()
     for (int i = 0; i < 3; ++i)
         settle();
     QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*123#", u"2"}));
-    QTest::keyClicks(general().commandEdit(), QLatin1String("pa")); // a name can be typed
+    // The name of a chain can be typed.
+    QTest::keyClicks(general().commandEdit(), QLatin1String("pa"));
     QCOMPARE(list()->model()->rowCount(), 1);
 }
 
@@ -382,7 +383,7 @@ void CodesPageTest::aWalkIsKept()
     fakeSdkScript({fakeReply(u"Menu\n1 One\n2 Two", 1), fakeReply(u"Done"), fakeReply(u"Balance")});
     monitor().send(QLatin1String("*123#"));
     settle();
-    QVERIFY(!keep()); // while the menu is open
+    QVERIFY(!keep()); // not offered while the menu is open
     monitor().answer(QLatin1String("2"));
     settle();
     QVERIFY(keep());
@@ -395,7 +396,7 @@ void CodesPageTest::aWalkIsKept()
     settle();
     QCOMPARE(m_favourites->chain(QLatin1String("Every month")).keys(),
              std::string("*123# \xe2\x80\xba 2"));
-    QVERIFY(!keep()); // it is kept
+    QVERIFY(!keep()); // not offered again, because the walk has been kept
     QVERIFY(m_favourites->remove(QLatin1String("Every month")));
     settle();
     QVERIFY(keep());
@@ -422,7 +423,7 @@ void CodesPageTest::aStoppedChainShowsWhyAndLeavesTheMenu()
     QMessageBox *box = codes().findChild<QMessageBox *>(QLatin1String("Dashboard_ChainBox"));
     QVERIFY(box && box->isVisible() && box->text() == codes().strip()->text());
     box->close();
-    shortcut(QKeySequence(QLatin1String("Alt+1")))->trigger(); // the user goes on
+    shortcut(QKeySequence(QLatin1String("Alt+1")))->trigger(); // the user answers the menu
     settle();
     QCOMPARE(codes().strip()->title(), QLatin1String("Ready"));
     QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*123#", u"1"}));
@@ -446,7 +447,8 @@ void CodesPageTest::aBlockedPageRunsNoChain()
     QVERIFY(fakeSdkCommands().empty());
 }
 
-// The list has opened while the user was typing, and no row of it is chosen.
+// Tests that Return sends the typed code if no row of the list is selected, although the list has
+// opened while the user was typing.
 void CodesPageTest::returnSendsWhatIsTyped()
 {
     QLineEdit *edit = general().commandEdit();
@@ -493,7 +495,7 @@ void CodesPageTest::findWords(const char *words)
     part<QLineEdit>("Dashboard_FindField")->setText(QString::fromUtf8(words));
 }
 
-/// Returns the match that is highlighted as the current one, with the character behind it.
+/// Returns the text that is highlighted as the current match, and the character after it.
 QString CodesPageTest::currentMatch()
 {
     for (const QTextEdit::ExtraSelection &selection : general().history()->extraSelections()) {
@@ -563,11 +565,12 @@ void CodesPageTest::theSearchFollowsTheTranscript()
     QTest::keyClick(part<QLineEdit>("Dashboard_FindField"), Qt::Key_Return);
     receive(u"roaming3");
     QCOMPARE(count(), QLatin1String("2 of 3"));
-    general().history()->clear(); // the Clear button asks first
+    general().history()->clear(); // the Clear button would ask for confirmation
     QCOMPARE(count(), QLatin1String("Not found"));
 }
 
-// The plug-in and the user own the text cursor, and the match is scrolled into view without it.
+// Tests that a search does not change the transcript or its text cursor, which belongs to the
+// plug-in and the user. The match must be scrolled into view without moving the text cursor.
 void CodesPageTest::theSearchLeavesTheTranscriptAlone()
 {
     receive(u"Needle");
@@ -632,10 +635,11 @@ void CodesPageTest::aTranscriptThatCannotBeSavedIsTold()
     QVERIFY(box);
     QVERIFY(box->isVisible());
     QVERIFY(box->text().startsWith(file + QLatin1String(" cannot be written: ")));
-    QVERIFY(box->text().size() > file.size() + 25); // the system's reason
+    QVERIFY(box->text().size() > file.size() + 25); // the message ends with the system's reason
 }
 
-// The style sheet makes other progress bars flat.
+// Tests that the ring is as high as it is wide, although the style sheet makes other progress bars
+// flat.
 void CodesPageTest::theRingIsRoundWithTheStyleSheet()
 {
     Look::instance().start();

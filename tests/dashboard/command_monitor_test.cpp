@@ -195,8 +195,8 @@ void CommandMonitorTest::aCancelledCommandIsShown()
     QCOMPARE(fakeSdkCommands().size(), std::size_t(2));
 }
 
-// Tests a reply that is faster than the cancellation. The SDK cannot cancel a request whose reply
-// is already being delivered.
+// Tests that a reply that is faster than the cancellation is accepted. The SDK cannot cancel a
+// request whose reply is already being delivered.
 void CommandMonitorTest::aReplyThatWasFasterThanCancelCounts()
 {
     monitor().send(QLatin1String("*104#"));
@@ -225,7 +225,8 @@ void CommandMonitorTest::aRefusalIsShown()
     QCOMPARE(state().kind, Kind::Ready);
 }
 
-// Tests a command that was not sent. The plug-in does not disable the code field in this case.
+// Tests that the monitor reports a command that was not sent. The plug-in does not disable the code
+// field for such a command.
 void CommandMonitorTest::aCommandThatWasNotSentIsShown()
 {
     fakeSdkSetAnswer(fakeRefused(1, 1));
@@ -250,7 +251,7 @@ void CommandMonitorTest::theTimeOutOfThePluginIsShown()
 {
     monitor().send(QLatin1String("*104#"));
     settle();
-    QTRY_COMPARE(state().kind, Kind::Failed); // the plug-in waits 400 ms in tests
+    QTRY_COMPARE(state().kind, Kind::Failed); // the plug-in's time-out is 400 ms in this test
     QCOMPARE(state().title, QString::fromUtf8("No reply to \u2066*104#\u2069"));
     QVERIFY(state().text.endsWith(QLatin1String("It may have carried the code out all the same.")));
     QVERIFY(monitor().canSend());
@@ -483,7 +484,8 @@ void CommandMonitorTest::aDisabledPageDoesNotWait()
     QCOMPARE(state().kind, Kind::Ready);
 }
 
-// The failure of the user's next code must be shown all the same.
+// Tests that a failed query of the program is not shown, but that the failure of the user's next
+// code is shown.
 void CommandMonitorTest::aFailedQueryOfTheProgramIsNotShown()
 {
     fakeSdkSetAnswer(fakeNetworkRefusal());

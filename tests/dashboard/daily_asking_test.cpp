@@ -14,7 +14,7 @@ const char CODE[] = "*100#";
 
 } // namespace
 
-/** Tests when the dashboard asks for the balance by itself. */
+/** Tests when the dashboard requests the balance automatically. */
 class DailyAskingTest : public CommandTest
 {
     Q_OBJECT
@@ -97,7 +97,7 @@ void DailyAskingTest::tell(const TKSV_DeviceInfo &info)
     settle();
 }
 
-/// Lets the hours pass, and then lets the object look at the time.
+/// Advances the time by this number of hours, and then makes the object check the time.
 void DailyAskingTest::look(int hours)
 {
     m_time = m_time.addSecs(qint64(hours) * 3600);
@@ -111,7 +111,7 @@ void DailyAskingTest::nothingIsAskedUnlessSwitchedOn()
     look();
     QCOMPARE(asked(), 0);
     QFile::remove(m_settings->file());
-    QVERIFY(!DashboardSettings().asksDaily()); // by default
+    QVERIFY(!DashboardSettings().asksDaily()); // disabled by default
     m_settings->setAsksDaily(true);
     m_daily->setCode(QString());
     look();
@@ -203,13 +203,13 @@ void DailyAskingTest::itWaitsWhileSomethingElseGoesOn()
     settle();
     QCOMPARE(state().kind, Kind::MenuEnded);
     look();
-    QCOMPARE(asked(), 1); // the user may still be reading
+    QCOMPARE(asked(), 1); // no further request, because the user may still be reading
     monitor().dismiss();
     fakeSdkSetAnswer(FakeAnswer());
     QVERIFY(monitor().send(QLatin1String("*7#")));
     settle();
     look();
-    QCOMPARE(asked(), 2); // a reply is pending
+    QCOMPARE(asked(), 2); // no further request, because a reply is pending
 }
 
 void DailyAskingTest::itWaitsAbroadAndWithoutNetwork_data()

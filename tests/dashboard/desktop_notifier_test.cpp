@@ -226,7 +226,8 @@ void DesktopNotifierTest::aClickOpensTheMessage()
             [&activated](DesktopNote::Kind, qint64 id) { activated << id; });
     say("first");
     QVERIFY(isNotified(1));
-    emit m_service->ActionInvoked(99, latin1("default")); // belongs to another program
+    // The notification belongs to another program.
+    emit m_service->ActionInvoked(99, latin1("default"));
     emit m_service->ActionInvoked(7, latin1("default"));
     QVERIFY(QTest::qWaitFor([&] { return !activated.isEmpty(); }, LIMIT));
     QCOMPARE(activated, QList<qint64>{m_store->newest().id});

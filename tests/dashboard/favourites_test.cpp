@@ -41,7 +41,7 @@ QStringList namesOf(const QList<NamedCode> &codes)
 
 } // namespace
 
-/** Tests the favourites and chains in their file. */
+/** Tests how favourites and chains are stored in their file. */
 class FavouritesTest : public UssdTest
 {
     Q_OBJECT
@@ -191,7 +191,7 @@ void FavouritesTest::aDamagedFileIsSetAside()
     Favourites favourites(file());
     QSignalSpy problems(&favourites, SIGNAL(problem(QString)));
     QCOMPARE(namesOf(favourites.chains()), QStringList(QLatin1String("Mine")));
-    QCOMPARE(content(), damaged); // reading changes nothing
+    QCOMPARE(content(), damaged); // reading does not change the file
     QVERIFY(favourites.keep(chain("Other", "2")));
     QCOMPARE(problems.size(), 1);
     const QStringList kept = QDir(folder() + QLatin1String("/data"))

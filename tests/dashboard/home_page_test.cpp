@@ -376,7 +376,8 @@ void HomePageTest::favouritesAreSelectedAndKept()
         }
         for (int i = 5; i < 7; ++i)
             list->item(i)->setCheckState(Qt::Checked);
-        QVERIFY(!(list->item(7)->flags() & Qt::ItemIsUserCheckable)); // six are selected
+        // Six favourites are already selected.
+        QVERIFY(!(list->item(7)->flags() & Qt::ItemIsUserCheckable));
         QCOMPARE(dialog.selected().size(), Favourites::MOST);
         QCOMPARE(dialog.selected().at(0).code, QLatin1String("*123#"));
         QVERIFY(favourites.select(dialog.selected()));
@@ -416,7 +417,7 @@ void HomePageTest::chainsAreRenamedAndDeleted()
     const auto button = [dialog](const char *name) {
         return dialog->findChild<QPushButton *>(QLatin1String(name));
     };
-    list->setCurrentRow(0); // a code
+    list->setCurrentRow(0); // this row contains a code, not a chain
     QVERIFY(!button("Dashboard_RenameChain")->isEnabled());
     QVERIFY(!button("Dashboard_DeleteChain")->isEnabled());
     list->setCurrentRow(
@@ -425,13 +426,13 @@ void HomePageTest::chainsAreRenamedAndDeleted()
             : -1);
     button("Dashboard_RenameChain")->click();
     ChainDialog *naming = dialog->findChild<ChainDialog *>();
-    naming->setName(QLatin1String("OTHER")); // in use
+    naming->setName(QLatin1String("OTHER")); // this name is already in use
     QVERIFY(!naming->findChild<QPushButton *>(QLatin1String("Dashboard_KeepChain"))->isEnabled());
     naming->setName(QLatin1String("1 GB"));
     naming->accept();
     list->setCurrentItem(list->findItems(QLatin1String("Other"), Qt::MatchStartsWith).first());
     button("Dashboard_DeleteChain")->click();
-    QCOMPARE(m_favourites->chains().size(), 2); // nothing is stored before Save
+    QCOMPARE(m_favourites->chains().size(), 2); // nothing is stored until the user presses Save
     dialog->accept();
     drainEvents();
     QCOMPARE(m_favourites->chains().size(), 1);

@@ -180,7 +180,8 @@ private:
     }
 
 private slots:
-    // This function must run first, because the style cannot be removed once it has been applied.
+    // Tests that selecting a theme does not affect the application before the look is started. This
+    // test must run first, because the style cannot be removed once it has been applied.
     void leavesTheApplicationAloneUntilItIsStarted()
     {
         const QPalette before = QApplication::palette();
@@ -239,7 +240,7 @@ private slots:
         QVERIFY(!sheet.contains(QRegularExpression(QLatin1String("#[0-9-]+px"))));
         const char *start = direction == Qt::LeftToRight ? "text-align: left" : "text-align: right";
         QVERIFY(sheet.contains(QLatin1String(start)));
-        QVERIFY(sheet.contains(QLatin1String("font-size: 36px"))); // the size of h1
+        QVERIFY(sheet.contains(QLatin1String("font-size: 36px"))); // the font size of h1
     }
 
     void everyIconHasTheColourOfItsToken_data()

@@ -170,11 +170,11 @@ void MainWindowTest::aCommandOfThePageIsAnswered()
 void MainWindowTest::theNumbersOfTheOperatorsCodesAreHidden()
 {
     const QStringList templates = m_window->controller().monitor().templates();
-    QVERIFY(templates.contains(QLatin1String("*140*%s#"))); // a profile
-    QVERIFY(templates.contains(QLatin1String("*101*%s#"))); // the account window
-    QVERIFY2(templates.contains(QLatin1String("*106*%s#")), // a service
+    QVERIFY(templates.contains(QLatin1String("*140*%s#"))); // from a profile
+    QVERIFY(templates.contains(QLatin1String("*101*%s#"))); // from the account window
+    QVERIFY2(templates.contains(QLatin1String("*106*%s#")), // from a service
              qPrintable(templates.join(QLatin1Char(' '))));
-    QVERIFY(!templates.contains(QLatin1String("WEATHER %s"))); // a short message
+    QVERIFY(!templates.contains(QLatin1String("WEATHER %s"))); // a short message, not a code
     QVERIFY(templates.contains(QLatin1String("*100#")));
 }
 
@@ -266,7 +266,7 @@ void MainWindowTest::aLanguageWithoutItsFileIsSaid()
 {
     QAction *german = networkAction(QLatin1String("Deutsch"));
     QVERIFY(german);
-    german->setData(QLatin1String("xx")); // as if the language file had been deleted
+    german->setData(QLatin1String("xx")); // a language without a language file
     german->trigger();
     const Banners *banners = m_window->findChild<Banners *>();
     QCOMPARE(banners->banner(Banners::Problem).text,

@@ -21,7 +21,7 @@ namespace
 const QString SENDER = QLatin1String("Meridian Mobile");
 }
 
-/** Tests the message list, reading, searching, and answering through the general window. */
+/** Tests listing, reading and searching messages, and answering them through the general window. */
 class MessagesPageTest : public CommandTest
 {
     Q_OBJECT
@@ -131,7 +131,7 @@ void MessagesPageTest::theRowsAreGroupedByDay()
     QCOMPARE(day(2), latin1("Yesterday"));
     QCOMPARE(day(3), QLocale().toString(m_noon.date().addDays(-40), QLocale::LongFormat));
     m_store->remove(model()->message(model()->index(0)).id);
-    // The row that is now the first one of its day shows the day.
+    // After the first row of a day has been removed, the next row shows the day.
     QCOMPARE(day(0), latin1("Today"));
 }
 

@@ -16,7 +16,10 @@ const TKSV_Modes WITH_OLDER = {TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G, TKSV_
 
 } // namespace
 
-/** Tests how a modem that is held on 4G gets 2G and 3G, and its former setting back. */
+/**
+ * Tests how 2G and 3G are enabled for a modem that is restricted to 4G, and how the modem's former
+ * setting is restored.
+ */
 class ModeChoiceTest : public UssdTest
 {
     Q_OBJECT
@@ -119,7 +122,7 @@ void ModeChoiceTest::olderNetworksAreAllowedAndTakenBack()
     tell(ONLY_4G);
     QVERIFY(!choice().canRestore());
     tell(WITH_OLDER);
-    QVERIFY(!choice().canRestore()); // forgotten
+    QVERIFY(!choice().canRestore()); // the former setting has been forgotten
 }
 
 void ModeChoiceTest::theFormerSettingOutlivesTheProgram()
@@ -128,7 +131,7 @@ void ModeChoiceTest::theFormerSettingOutlivesTheProgram()
     tell(WITH_OLDER);
     restartProgram();
     QVERIFY(choice().canRestore());
-    QCOMPARE(changes().size(), 1); // nothing by itself
+    QCOMPARE(changes().size(), 1); // the setting is not restored automatically
     choice().restore();
     QCOMPARE(changes().last(), QLatin1String("4,0"));
 }

@@ -264,7 +264,8 @@ void ModemWindowTest::openingSendsNothing()
     QVERIFY(fakeSdkCalls("TKSV_Device_EndForeignSession").empty());
 }
 
-// Tests codes that the editor has saved while its frame is still open.
+// Tests that codes that were saved while the framed general window was open are shown on the page
+// when this window is closed.
 void ModemWindowTest::theFirstOwnCodesAreShownAtOnce()
 {
     fakeSdkSetUserDataDirectory((folder() + QLatin1Char('/')).toStdU16String());
@@ -383,7 +384,8 @@ void ModemWindowTest::aFailureIsSaidUntilTheNextCommand()
     QTRY_COMPARE(commandText(), QString());
 }
 
-// Tests a command that was not sent. The plug-in does not disable the code field in this case.
+// Tests that the window explains why a command was not sent. The plug-in does not disable the code
+// field for such a command.
 void ModemWindowTest::aRejectedCommandIsSaid()
 {
     tell(modemWithSim());
@@ -428,7 +430,7 @@ void ModemWindowTest::theTurnOfAnotherProgramIsSaid()
              QLatin1String("Waiting for its turn. Another program is using the modem."));
 }
 
-// ---- what mends the device --------------------------------------------------------
+// ---- remedies ----------------------------------------------------------------------
 
 void ModemWindowTest::theModemIsSwitchedOnFromThePage()
 {

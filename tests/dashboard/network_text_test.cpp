@@ -50,7 +50,7 @@ namespace
 
 const long long NOON = 1795262400; // 2026-11-21 12:00 UTC
 
-/// Returns the files of the user that contain what the program has kept.
+/// Returns the names of the files in which the program has stored the user's data.
 QStringList keptFiles()
 {
     const QDir home(Provisioning::userDataHome());
@@ -212,12 +212,12 @@ void NetworkTextTest::deletingAllLeavesNoFile()
     const QByteArray before = contentOf(salt);
     window().showPage(PageId::Settings);
     emit part<SettingsPage>("Dashboard_SettingsPage")->deleteAllRequested();
-    QCOMPARE(keptFiles(), QStringList(QLatin1String("sim-salt"))); // the next entries need a key
+    QCOMPARE(keptFiles(), QStringList(QLatin1String("sim-salt"))); // a new salt for later entries
     QVERIFY(contentOf(salt) != before);
     say("next");
     tell(modemInfo(TKSV_DEVICE_ABSENT));
     tell(info);
-    QCOMPARE(store().newest().text, QLatin1String("next")); // the key stays the same from now on
+    QCOMPARE(store().newest().text, QLatin1String("next")); // the salt has not changed again
 }
 
 USSD_TEST_MAIN(NetworkTextTest)

@@ -1,6 +1,6 @@
 /*
  * Opens the dashboard as the main function does, and closes it when the plug-in's page is visible.
- * The exit code is 0 if the dashboard ended normally and saved its window geometry.
+ * The exit status is 0 if the dashboard ended normally and saved its window geometry.
  */
 #include <QApplication>
 #include <QMainWindow>

@@ -24,7 +24,7 @@ const char SILENT[] = "HomeNetwork=99903";
 } // namespace
 
 /**
- * Tests how the dashboard offers and installs the operator's codes and how the plug-in loads them.
+ * Tests how the dashboard offers and installs the operator's codes, and how the plug-in loads them.
  */
 class OperatorCodesTest : public SimTest
 {
@@ -157,7 +157,7 @@ void OperatorCodesTest::ofSeveralNoneIsChosenSilently()
 {
     useSim(SEVERAL);
     QVERIFY(notice().contains(QLatin1String("Several")));
-    take(); // the button opens a message box first
+    take(); // the button opens a dialog first
     QCOMPARE(inUse(), QString());
     QPushButton *ok = window().findChild<QPushButton *>(QLatin1String("Dashboard_OperatorOk"));
     QVERIFY(ok && !ok->isEnabled());

@@ -195,8 +195,8 @@ void PaidTypeTest::anotherSimIsAskedAnew()
     QTRY_COMPARE(paidType(), QLatin1String("Postpaid"));
 }
 
-// Tests a SIM change during the detection. The plug-in reports a failed detection as "postpaid",
-// which must not be shown for the new SIM.
+// Tests that the result of a detection is not shown for a new SIM. If the SIM changes during the
+// detection, the plug-in reports the failed detection as "postpaid".
 void PaidTypeTest::theAnswerOfTheSimBeforeIsNotTaken()
 {
     openWith(POSTPAID_SIM, SILENT);

@@ -326,7 +326,7 @@ private slots:
             openFrame()->findChild<QPushButton *>(latin1("USSDUIPlugin_AdvancedDialog_EditButton"));
         QVERIFY(edit);
         bool wasOpen = false;
-        // Needed because the editor runs its own event loop.
+        // The timer is needed because the editor runs its own event loop.
         QTimer::singleShot(0, this, [&] {
             QWidget *frame = QApplication::activeModalWidget();
             wasOpen = frame && frame->findChild<QWidget *>(latin1("USSDUIPlugin_ProfileTable"));

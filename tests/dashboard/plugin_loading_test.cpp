@@ -138,7 +138,7 @@ void PluginLoadingTest::aTextFileIsNoLibrary()
 
 void PluginLoadingTest::anEmptyFileIsNoLibrary()
 {
-    allowWarning("libempty.so: failed to map to memory"); // of Qt 6
+    allowWarning("libempty.so: failed to map to memory"); // Qt 6 logs this warning
     QCOMPARE(load(writeFile(QLatin1String("libempty.so"), QByteArray())).step,
              PluginFailure::NotALibrary);
 }
@@ -163,13 +163,14 @@ void PluginLoadingTest::aPluginOfAnotherQtIsOfTheWrongBuild()
     QFile good(testPlugin("good_plugin"));
     QVERIFY(good.open(QIODevice::ReadOnly));
     QByteArray content = good.readAll();
-    // The mark of Qt 5, or the owner of the note of Qt 6, has 12 bytes. It is followed by the
-    // format of the meta data and the major and minor version of Qt.
+    // The library contains a mark (Qt 5) or a note with the name of its owner (Qt 6). Each of
+    // them has 12 bytes and is followed by the format of the meta data and the major and minor
+    // version of Qt.
     const int mark = int(qMax(content.indexOf("QTMETADATA !"), content.indexOf("qt-project!")));
     QVERIFY(mark > 0);
     QCOMPARE(int(content.at(mark + 13)), QT_VERSION_MAJOR);
     content[mark + 14] = 99;
-    allowWarning("incompatible Qt library"); // of Qt 6
+    allowWarning("incompatible Qt library"); // Qt 6 logs this warning
     const PluginFailure failure = load(writeFile(QLatin1String("libother.so"), content));
     QCOMPARE(failure.step, PluginFailure::WrongBuild);
     QVERIFY2(failure.detail.contains(QString::fromLatin1("%1.99").arg(QT_VERSION_MAJOR)),

@@ -20,7 +20,7 @@ namespace
 const char PIN[] = "83619274";
 const char VOUCHER[] = "7319462850317";
 const char IMSI[] = "001019358274610";
-const char NUMBER[] = "551846203"; // of the user and of others, without the country code
+const char NUMBER[] = "551846203"; // the phone number in all replies, without the country code
 const char16_t NUMBER_REPLY[] = u"Your number is +999551846203.";
 const char16_t BALANCE_REPLY[] =
     u"Balance: 12.50 EUR. +999 55-184-6203 has used voucher 7319-4628-50317.";
@@ -35,7 +35,7 @@ QByteArray utf16(const QByteArray &text, bool isBigEndian)
     return result;
 }
 
-/// Returns the content without what may stand between the digits of a number.
+/// Returns the content without the characters that may separate the digits of a number.
 QByteArray packed(QByteArray content)
 {
     for (const char separator : {'\0', ' ', '-', '.'})
@@ -178,7 +178,7 @@ void PrivacyTest::aSessionLeavesNoSecretInAFile()
     QCOMPARE(store.file().isEmpty(), false);
     tearDown(); // writes what is still in memory
     const QString home = QDir::homePath();
-    // The session has indeed written its files.
+    // Proves that the session has written its files.
     QCOMPARE(filesWith(home, "1250EUR").size(), 1);
     QCOMPARE(filesWith(home, "Missedcallfrom").size(), 1);
     QVERIFY(filesWith(home, "*106*").size() == 1);

@@ -254,8 +254,8 @@ void ProgramTest::theDeviceInUseIsToldWhenAskedFor()
     QVERIFY(!run("--send *100#").error.contains(source));
 }
 
-// Tests a modem that is not available. The tests run without a message bus, so the program cannot
-// find any modem.
+// Tests that the program reports a modem that is not available. The tests run without a message
+// bus, so the program cannot find any modem.
 void ProgramTest::aModemThatIsNotThereIsSaid()
 {
     const Run result = run("--modem 353612345678901 --verbose --send *100#");

@@ -12,7 +12,7 @@
 
 using namespace Dashboard;
 
-/** Tests that the user can answer a question from the network above a modal plug-in window. */
+/** Tests that the user can answer a question from the network while a plug-in window is modal. */
 class QuestionDialogTest : public CommandTest
 {
     Q_OBJECT
@@ -99,7 +99,8 @@ void QuestionDialogTest::theDialogTakesInputAboveTheFrame()
     ask();
     QCOMPARE(QApplication::activeModalWidget(), m_dialog.data());
     QLineEdit *field = m_dialog->answerBox()->field();
-    for (const char character : {'p', 'a', 'r', 'i', 's'}) // a blocked window does not get keys
+    // A blocked window would not receive the keys.
+    for (const char character : {'p', 'a', 'r', 'i', 's'})
         QTest::keyClick(m_dialog->windowHandle(), character);
     QCOMPARE(field->text(), latin1("paris"));
     QTest::keyClick(m_dialog->windowHandle(), Qt::Key_Return);

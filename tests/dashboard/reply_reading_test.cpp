@@ -18,7 +18,7 @@ const int FEWEST_REPLIES = 200;
 /// share, update this constant and docs/dashboard.md.
 const int LEAST_RECALL = 95; // percent
 
-/** A reply from the corpus and the values that it contains, by name. */
+/** A reply from the corpus, and the values that it contains, by the name of the value. */
 struct Wording {
     int line = 0;
     QString text;

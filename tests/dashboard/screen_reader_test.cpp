@@ -285,8 +285,8 @@ void ScreenReaderTest::theCourseOfACode()
     compare("codes-menu-ended");
 }
 
-// Qt 5 does not send alerts over the accessibility bus. Screen readers announce the changed name of
-// a status bar instead.
+// Tests that a screen reader can announce each state. Qt 5 does not send alerts over the
+// accessibility bus, so screen readers announce the changed name of a status bar instead.
 void ScreenReaderTest::everyChangeIsAnnounced()
 {
     startWithModem();

@@ -19,7 +19,7 @@
 
 using namespace Dashboard;
 
-/** Tests which device `--send` uses, its exit codes, and how signals end the program. */
+/** Tests which device `--send` uses, its exit status, and how signals end the program. */
 class SendTest : public UssdTest
 {
     Q_OBJECT
@@ -239,8 +239,8 @@ void SendTest::aSignalEndsTheCommand()
     QVERIFY(result.out.isEmpty());
 }
 
-/// Tests a signal that arrives while the first reply is being written to a full pipe. The program
-/// must not send the answer, because the answer might buy something.
+/// Tests that the program does not send the answer if a signal arrives while the program is writing
+/// the first reply to a full pipe. The answer might buy something.
 void SendTest::afterASignalNoAnswerIsSent()
 {
     const QString name = folder() + QLatin1String("/pipe");

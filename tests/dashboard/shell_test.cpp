@@ -325,7 +325,8 @@ void ShellTest::theCodeFieldIsReachedFromEverywhere()
     QCOMPARE(int(m_window->currentPage()), int(PageId::Codes));
 }
 
-/// Uses a field that accepts Ctrl+E, because a line edit accepts this key only on X11.
+/// Tests that a field does not override the shortcut keys of the menu. Uses a field that accepts
+/// Ctrl+E, because a line edit accepts this key only on X11.
 void ShellTest::aFieldLeavesItsKeyToTheMenu()
 {
     struct Field : QLineEdit {

@@ -105,7 +105,8 @@ void SingleInstanceTest::afterTheEndThereIsAFirstAgain()
     QVERIFY(second.isListening());
 }
 
-// Tests a first instance that does not answer because its event loop is not running.
+// Tests that the second instance starts normally if the first instance does not answer because its
+// event loop is not running.
 void SingleInstanceTest::aFirstThatDoesNotAnswerBlocksNobody()
 {
     const SingleInstance first(m_name);

@@ -175,8 +175,8 @@ void StateStripTest::theHeightIsTheSameInEveryState()
     QCOMPARE(heights, QSet<int>{Look::instance().px(116)});
 }
 
-// The smallest window is 360 pixels wide. The margins need 16 pixels and the card's border 2
-// pixels.
+// Tests that the strip fits into the smallest window, which is 360 pixels wide. The margins need 16
+// pixels and the card's border 2 pixels.
 void StateStripTest::theSmallestWindowIsWideEnough()
 {
     const int room = Look::instance().px(342);
@@ -289,7 +289,7 @@ void StateStripTest::olderNetworksAreOfferedAfterAFailureOn4G()
 {
     strip().setModes(true, false);
     show(stateOf(Kind::Failed));
-    QVERIFY(!part<QPushButton>("Dashboard_AllowOlder")); // another failure
+    QVERIFY(!part<QPushButton>("Dashboard_AllowOlder")); // this failure is unrelated to 4G
     CommandState failed = stateOf(Kind::Failed);
     failed.failure = TKSV_FAILURE_NOT_ON_4G;
     show(failed);
@@ -367,12 +367,12 @@ void StateStripTest::aStoppedChainKeepsTheChoices()
     drainEvents();
     QCOMPARE(strip().title(), chain.title);
     QCOMPARE(strip().height(), height);
-    QVERIFY(part<QPushButton>("Dashboard_Choice")); // elided, beside the button with the reason
+    QVERIFY(part<QPushButton>("Dashboard_Choice")); // elided to make room for the next button
     QVERIFY(part<QPushButton>("Dashboard_WhyStopped"));
     QVERIFY(part<QPushButton>("Dashboard_EndMenu"));
     state.kind = Kind::Waiting;
     show(state);
-    QCOMPARE(strip().title(), state.title); // the message is about the reply before
+    QCOMPARE(strip().title(), state.title); // the chain's message refers to the previous reply
     QVERIFY(!part<QPushButton>("Dashboard_WhyStopped"));
 }
 
@@ -397,8 +397,8 @@ void StateStripTest::aFailureOffersWhatHelps()
     QVERIFY(!part<QPushButton>("Dashboard_SendAgain"));
 }
 
-// The narrow strip does not offer to send the code again, because it has no room for the warning
-// that the network may have executed the code.
+// Tests that the narrow strip does not offer to send the code again, because it has no room for the
+// warning that the network may have executed the code.
 void StateStripTest::theNarrowFormSaysTheOutcomeFirst()
 {
     strip().setForm(Form::Narrow);

@@ -1,6 +1,6 @@
 /*
- * A plug-in with a defect, which a macro selects. The plug-in records each call by the host in the
- * "calls" property of the application.
+ * A plug-in with a defect that is selected with a macro. The plug-in records each call by the host
+ * in the "calls" property of the application.
  */
 #include <QCoreApplication>
 #include <QStringList>

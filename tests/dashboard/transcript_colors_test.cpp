@@ -30,7 +30,8 @@ private slots:
 
     void paperOfTheDarkThemeCountsToo()
     {
-        // The colour has a contrast of 4.9 on white, but only 4.0 on the paper of the dark theme.
+        // The colour has a contrast of 4.9 on white, but only 4.0 on the transcript background of
+        // the dark theme.
         Formats::PluginConfig configuration;
         configuration.sentChar.red = configuration.sentChar.green = configuration.sentChar.blue =
             112;

@@ -138,7 +138,7 @@ FakeAnswer fakeReplyAfter(std::chrono::milliseconds delay, const std::u16string 
 
 FakeAnswer fakeNetworkRefusal()
 {
-    const int operationNotSupported = 4; // <m> of +CUSD, 3GPP TS 27.007
+    const int operationNotSupported = 4; // value of <m> in +CUSD, 3GPP TS 27.007
     return oneResponse(std::u16string(), operationNotSupported);
 }
 

@@ -165,8 +165,8 @@ FAKE_API void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure);
 /// the setting, such as "7,0".
 FAKE_API void fakeSdkSetModes(const TKSV_ModesInfo &modes);
 
-/// Sends a message that the network initiates, from the device's thread. The message is lost if no
-/// call-back is registered.
+/// Sends a network-initiated message from the device's thread. The message is lost if no call-back
+/// is registered.
 FAKE_API void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer,
                                      long long receivedAt);
 
@@ -199,8 +199,8 @@ FAKE_API std::size_t fakeSdkBadSmsRecords();
 
 // ---- folders ---------------------------------------------------------------------------------
 
-/// Sets the result of TKSV_GetUserDataDirectory, which is returned unchanged. The function fails if
-/// no directory has been set.
+/// Sets the path that TKSV_GetUserDataDirectory returns, without modifying it. If no path has been
+/// set, TKSV_GetUserDataDirectory fails.
 FAKE_API void fakeSdkSetUserDataDirectory(const std::u16string &directory);
 
 #endif

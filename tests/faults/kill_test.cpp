@@ -29,7 +29,7 @@ const unsigned LIMIT = 5; // the maximum time in seconds that a start may take a
 
 /**
  * Kills the program at each of its disk operations, including when only half of the data has been
- * written. After each kill, the old or the new file must exist, or the program must offer to
+ * written. After each kill, either the old or the new file must exist, or the program must offer to
  * restore the backup.
  */
 class KillTest : public UssdTest
@@ -127,7 +127,8 @@ bool KillTest::isOldOrNewOrOffered()
     return isOffered && backup().restore() && contentOf(m_file) == OLD;
 }
 
-/// Tests saving new codes to a file that contains the old codes.
+/// Tests that a kill while new codes are being saved leaves the old codes, the new codes, or a
+/// backup that the program offers to restore.
 void KillTest::savingTheCodesLeavesThemOrTheCopy()
 {
     layOut(NEW, OLD);

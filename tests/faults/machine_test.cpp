@@ -226,7 +226,8 @@ void MachineTest::halfAFileOfCodesIsOfferedBack()
     QCOMPARE(contentOf(codesFile() + text(".damaged")), half);
 }
 
-/// Kills a complete run of the program at each step, including the steps during start-up.
+/// Tests that the user's codes are not lost if the program is killed while it is saving. A complete
+/// run of the program is killed at each step, including the steps during start-up.
 void MachineTest::aKillWhileSavingIsMendedByTheNextStart()
 {
     makeCopy();

@@ -34,7 +34,7 @@ QList<USSDProfile> readAndSave()
 void checkProfiles(const QList<USSDProfile> &profiles, size_t bytes)
 {
     FUZZ_REQUIRE(profiles.count() >= 1 && profiles.first().isSystem);
-    FUZZ_REQUIRE(static_cast<size_t>(profiles.count()) <= bytes / 6 + 1); // the length of "<item>"
+    FUZZ_REQUIRE(static_cast<size_t>(profiles.count()) <= bytes / 6 + 1); // "<item>" has six bytes
     QSet<QString> codes;
     for (const USSDProfile &profile : profiles) {
         // If several profiles have the same code, only the first one is kept.

@@ -23,7 +23,7 @@ using namespace Provisioning;
 namespace
 {
 
-const int MOST_PROVIDERS = 20; // the maximum number of operators checked per input
+const int MOST_PROVIDERS = 20; // the maximum number of operators that are checked per input
 
 QByteArray shipped;
 

@@ -223,8 +223,8 @@ void FaultySdkTest::blockingRequestThatFailsIsSaid()
     QVERIFY(isIdle());
 }
 
-/// Tests shutting down the plug-in while the SDK's thread is blocked in a request for the next
-/// command.
+/// Tests that shutting down the plug-in waits for a thread of the SDK that is blocked in a request
+/// for the next command.
 void FaultySdkTest::endWaitsForABlockingRequest()
 {
     FakeAnswer slow = fakeSilence();

@@ -254,7 +254,7 @@ void HostileRepliesTest::linkInAReplyOpensNothing()
     SystemCalls::watch();
     QPoint middle = history()->viewport()->rect().center();
     while (history()->anchorAt(middle).isEmpty() && middle.y() > 0)
-        middle.ry() -= 1;                            // the space between two lines is no link
+        middle.ry() -= 1;                            // the space between two lines is not a link
     QVERIFY(!history()->anchorAt(middle).isEmpty()); // there is a link under the pointer
     QTest::mouseClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     QTest::mouseDClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
@@ -321,7 +321,7 @@ void HostileRepliesTest::labelOutlivesReply()
     QCOMPARE(label.text(), reply);
 }
 
-/// Shows long replies repeatedly, and checks that the memory use does not grow.
+/// Tests that the memory use does not grow when long replies are shown and cleared repeatedly.
 void HostileRepliesTest::memoryComesBack()
 {
     open();
@@ -352,7 +352,7 @@ void HostileRepliesTest::noNetworkLibraryIsLoaded()
     showEverywhere(latin1("<img src='http://127.0.0.1:1/x.png'>"));
     const QByteArray libraries = loadedLibraries();
     const QByteArray qt = "libQt" + QByteArray::number(QT_VERSION_MAJOR);
-    QVERIFY(libraries.contains(qt + "Widgets")); // proves that libraries are found
+    QVERIFY(libraries.contains(qt + "Widgets")); // proves that the list contains libraries of Qt
     QVERIFY(!libraries.contains(qt + "Network"));
 }
 

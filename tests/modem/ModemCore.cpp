@@ -64,7 +64,8 @@ NetworkNews ModemCore::networkNews()
 {
     NetworkNews news;
     news.ussd = [this](const Tksv::UssdReply &reply) {
-        const bool isNetworks = reply.type <= TKSV_FAILURE_NETWORK_TIMEOUT; // a value of <m>
+        // True if the type is a value of <m> in +CUSD.
+        const bool isNetworks = reply.type <= TKSV_FAILURE_NETWORK_TIMEOUT;
         sayUssd(isNetworks ? reply.type : TKSV_FAILURE_ENDED_BY_NETWORK,
                 reply.text + reply.failure.text); // the closing message if there is no reply
     };

@@ -14,7 +14,7 @@ class ModemTest : public UssdTest
 {
 protected:
     /// The scenario for the network of the modems. It contains codes with each possible outcome,
-    /// and the menu *120#.
+    /// and the code *120#, which opens a menu.
     static const char NETWORK[];
 
     static TKSV_DeviceInfo info();
@@ -33,7 +33,7 @@ protected:
                   const FakeModems::ModemSettings &settings = FakeModems::ModemSettings());
     /// Starts ModemManager with a modem, and waits until the modem is registered.
     void useModem(const FakeModems::ModemSettings &settings = FakeModems::ModemSettings());
-    /// Connects the client to the modem "one".
+    /// Connects the client to the modem that is named "one".
     bool connect(FakeModems::MmClient &client);
 
     std::unique_ptr<FakeModems::ModemWorld> m_world;

@@ -301,9 +301,9 @@ void ModemWorld::plugIn(const std::string &id)
     announce(id);
 }
 
-/// Runs on the world's thread. To clients, the reset of a modem that stays plugged in looks like a
-/// restart of the daemon. The daemon is killed before the port is closed, so that it cannot disable
-/// the modem.
+/// Runs on the world's thread. To clients, a reset of a modem that stays plugged in looks like a
+/// restart of the daemon, so the daemon is restarted. It is killed before the port is closed, so
+/// that it cannot disable the modem.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
     if (!hasModem(id))

@@ -24,9 +24,9 @@ void NetworkLink::start()
     m_network.start(*this);
 }
 
-/// Each code starts a new session. A network would treat the code as an answer while a menu is
-/// open, but the daemon may not have passed a preceding cancellation to the modem, because it sends
-/// only the first cancellation.
+/// Starts a new session for each code, even if a menu is open. A real network would treat the code
+/// as an answer. However, the session may have been cancelled although the modem has not received
+/// the cancellation, because the daemon sends only the first cancellation to the modem.
 int NetworkLink::sendUssd(const std::string &text)
 {
     if (!m_started)

@@ -12,15 +12,15 @@ namespace FakeModems
 struct SimData {
     std::string imsi;
     std::string iccid = "8949000000000000017"; // 19 or 20 digits
-    std::string operatorName;                  // the service provider name, or empty
+    std::string operatorName;                  // the service provider name, or an empty string
     int mncLength = 2;
     std::string pin = "0000";
     std::string puk = "12345678";
 };
 
 /**
- * The AT commands of a SIM card: the PIN lock, the retry counters, and the files that ModemManager
- * reads.
+ * Implements the AT commands for a SIM card: the PIN lock, the retry counters, and the files that
+ * ModemManager reads.
  */
 class SimCard
 {
@@ -38,7 +38,7 @@ public:
     AtAnswer pin(const AtCommand &command);  // answers +CPIN
     AtAnswer imsi() const;                   // answers +CIMI
     AtAnswer file(const AtCommand &command); // answers +CRSM, 3GPP TS 27.007, 8.18
-    AtAnswer raw(const AtCommand &command); // answers +CSIM, but only the requests for the counters
+    AtAnswer raw(const AtCommand &command);  // answers the +CSIM requests for the retry counters
 
 private:
     enum class Lock { None, Pin, Puk };

@@ -122,8 +122,8 @@ void ModemAutomaticTest::addSecondModem()
     QCOMPARE(m_world->addModem("two", network, settings), std::string());
 }
 
-/// Tests a command that is sent before the library has found a device. Must be the first test in
-/// the process.
+/// Tests that a command that is sent before the library has found a device waits for the modem.
+/// Must be the first test in the process.
 void ModemAutomaticTest::theFirstCommandWaitsForTheModem()
 {
     addModem();

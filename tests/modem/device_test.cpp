@@ -174,8 +174,9 @@ void ModemDeviceTest::theModemTellsOfItself()
 
 /* ---- replies ----------------------------------------------------------------------------- */
 
-/// Tests replies that arrive in several pieces, after the OK. If a reply arrived in pieces together
-/// with the OK, the daemon would use only the pieces that have arrived when it reads the OK.
+/// Tests that a reply is complete even if it arrives in several pieces, provided that they arrive
+/// after the OK. If the pieces arrived together with the OK, the daemon would use only those that
+/// have arrived when it reads the OK.
 void ModemDeviceTest::repliesArriveWhole()
 {
     useModem();
@@ -257,8 +258,8 @@ void ModemDeviceTest::brokenRepliesHaveAReason()
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 
-/// Tests the reason that is reported for a failure on 4G. The last value of +CREG is the access
-/// technology: 7 for 4G, 2 for 3G (3GPP TS 27.007, 7.2).
+/// Tests which failures are attributed to 4G. The last value of +CREG is the access technology: 7
+/// for 4G, 2 for 3G (3GPP TS 27.007, 7.2).
 void ModemDeviceTest::aModemOn4GOnlyIsSaid()
 {
     useModem();
@@ -340,7 +341,8 @@ void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
     QCOMPARE(networkTexts().all(), std::vector<std::string>{"late."});
 }
 
-/// Tests a command that is sent before the library has read the state of the modem.
+/// Tests that a command is sent even if the library has not yet read the state of the selected
+/// modem, and that it fails if this modem is absent.
 void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
 {
     useModem();
@@ -394,12 +396,12 @@ void ModemDeviceTest::aDisabledModemEndsTheCommand()
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_DISABLED));
-    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library does not enable it again
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library does not enable the modem again
     QVERIFY(request(u"*100#") != 0);
     QCOMPARE(info().hasForeignSession, 0);
     QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
-    // This command does not have to wait, because the first one has been cancelled.
+    // This command does not have to wait, because the first command has been cancelled.
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 
@@ -499,8 +501,8 @@ void ModemDeviceTest::messagesAreDeletedFromTheModem()
     QVERIFY(waitUntil([&] { return client.storedMessages() == 0; }));
 }
 
-/// Tests a message that fails because the user selects another device. When the daemon creates the
-/// message later, the library deletes it.
+/// Tests that a message that has failed because the user has selected another device is never sent.
+/// When the daemon creates the message later, the library deletes it.
 void ModemDeviceTest::aMessageThatWasGivenUpIsNotSent()
 {
     useModem();
@@ -529,7 +531,7 @@ void ModemDeviceTest::readinessFollowsTheRegistration()
     fake().say("+CREG: 0");
     fake().say("+CGREG: 0");
     QVERIFY(waitUntil([] { return !info().canSendSMS; }));
-    QVERIFY(waitUntil([] { // checks only the last status, because an earlier 7 may arrive late
+    QVERIFY(waitUntil([] { // an earlier status 7 may arrive late, so checks only the last one
         const std::vector<int> told = received().smsStatus.all();
         return !told.empty() && told.back() == 8;
     }));
@@ -640,10 +642,8 @@ void ModemDeviceTest::aMissingPolkitIsSaid()
 
 /* ---- the radio --------------------------------------------------------------------------- */
 
-/// Tests that the library enables the modem only on request. The daemon queries polkit before it
-/// enables the modem. The library would enable the modem before it reads the SIM.
-/// Tests that the outcome of a change reaches the program. The daemon's generic plug-in cannot
-/// change the networks that a modem may use.
+/// Tests that the library reports a change of the permitted networks that has failed. The daemon's
+/// generic plug-in cannot change the networks that a modem may use.
 void ModemDeviceTest::aSettingThatTheModemRefusesIsReported()
 {
     useModem();
@@ -661,6 +661,9 @@ void ModemDeviceTest::aSettingThatTheModemRefusesIsReported()
     QCOMPARE(info().isRoaming, 0);
 }
 
+/// Tests that the library enables the modem only on request. The daemon queries polkit before it
+/// enables a modem. By the time the library has read the SIM, it would already have tried to enable
+/// the modem.
 void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
 {
     startWorld();

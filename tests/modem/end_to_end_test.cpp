@@ -366,7 +366,8 @@ void EndToEndTest::aNetworkThatIsSilent()
     openPage();
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
-    // This time, the daemon does not send a cancellation to the modem.
+    // This time, the daemon does not send a cancellation to the modem, because it sends only the
+    // first one.
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
@@ -487,7 +488,8 @@ void EndToEndTest::aReplyInThreeScriptsIsAnswered()
     QCOMPARE(ask(name), QString::fromUtf8("Du heißt %1.").arg(name));
 }
 
-/// Tests a command of 91 UTF-16 code units, which is the maximum for the plug-in's command record.
+/// Tests that a command of 91 UTF-16 code units reaches the modem unchanged. This is the maximum
+/// for the plug-in's command record.
 void EndToEndTest::theLongestCommand()
 {
     openPage();
@@ -732,7 +734,7 @@ void EndToEndTest::aSignalEndsTheSessionOfSend()
     QCOMPARE(run.code, 128 + number);
     QVERIFY(run.error.contains(QLatin1String("The command was cancelled.")));
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
-    QCOMPARE(sendRun("*100#").code, 0); // no session is open
+    QCOMPARE(sendRun("*100#").code, 0); // the cancelled command has not left a session open
 }
 
 void EndToEndTest::aMenuThatSendLeavesOpenIsEnded()
@@ -785,8 +787,8 @@ void EndToEndTest::severalProgramsGetTheirOwnReplies()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// Tests the message that a second program prints while the first program is waiting for a reply
-/// that never arrives.
+/// Tests that a second program reports that it is waiting for its turn. The first program is
+/// waiting for a reply that never arrives.
 void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
 {
     QProcess first;
@@ -804,8 +806,9 @@ void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
     QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
 }
 
-/// Tests the error message of a program that stops waiting for its turn. The program cannot rule
-/// out that the code was carried out, because its turn may have come at the last moment.
+/// Tests that a program that stops waiting for its turn does not claim that the code was not
+/// carried out. The code may have been carried out, because its turn may have come at the last
+/// moment.
 void EndToEndTest::aProgramThatMissesItsTurnClaimsNothing()
 {
     Tksv::SessionTurn another("350000000000017");

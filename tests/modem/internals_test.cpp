@@ -86,7 +86,7 @@ void ModemInternalsTest::aSilentServiceIsNoticed()
     QVERIFY(problemIs(TKSV_PROBLEM_NONE));
     QVERIFY(world.waitUntil([&] { return !backend->info().isLooking; }));
     world.pauseDaemon();
-    watch.start(); // searches again
+    watch.start(); // starts another search for modems
     QVERIFY(problemIs(TKSV_PROBLEM_SERVICE_SILENT));
     world.resumeDaemon();
     QVERIFY(problemIs(TKSV_PROBLEM_NONE));
@@ -94,8 +94,8 @@ void ModemInternalsTest::aSilentServiceIsNoticed()
     watch.stop();
 }
 
-/// Tests a request that is pending when the user selects another device. ModemManager has not
-/// reported its modems yet.
+/// Tests that a pending request fails if the user selects another device before ModemManager has
+/// reported its modems.
 void ModemInternalsTest::aRequestThatWaitsForTheServiceFailsWithTheDevice()
 {
     FakeModems::ModemWorld world;
@@ -203,9 +203,9 @@ void ModemInternalsTest::olderModesAreAddedToTheCurrentOnes()
         return QString::fromLatin1("%1,%2").arg(modes.allowed).arg(modes.preferred);
     };
     QCOMPARE(chosen({g4, 0}), QLatin1String("7,4"));
-    QCOMPARE(chosen({g4 | g5, 0}), QLatin1String("7,4")); // no setting keeps 5G
+    QCOMPARE(chosen({g4 | g5, 0}), QLatin1String("7,4")); // no supported setting contains 5G
     QCOMPARE(chosen({g3 | g4, 0}), QLatin1String("0,0")); // 3G is already allowed
-    QCOMPARE(chosen({0, 0}), QLatin1String("0,0"));       // unknown
+    QCOMPARE(chosen({0, 0}), QLatin1String("0,0"));       // the current setting is unknown
     QCOMPARE(withOlderModes({g4, 0}, {{g4, 0}, {g5, 0}}).allowed, 0U);
 }
 

@@ -203,9 +203,9 @@ void ModemWorldTest::refusals()
     QCOMPARE(m_client->initiate("*100#").text, std::string("Balance 10.00"));
 }
 
-/// Tests a reply that arrives in several pieces, after the OK. If the reply arrived in pieces
-/// together with the OK, the daemon would use only the pieces that have arrived when it reads the
-/// OK.
+/// Tests that a reply is complete even if it arrives in several pieces, provided that they arrive
+/// after the OK. If the pieces arrived together with the OK, the daemon would use only those that
+/// have arrived when it reads the OK.
 void ModemWorldTest::trickledBytesAreRead()
 {
     addModem();
@@ -243,7 +243,8 @@ void ModemWorldTest::errorOnBothTriesIsAFailure()
     modem().misbehave({"AT+CUSD=1", Fault::EquipmentError, 100, 2});
     QCOMPARE(m_client->initiate("*100#").code, int(MM_CORE_ERROR_FAILED));
     QCOMPARE(modem().timesReceived("AT+CUSD=1"), 2);
-    QCOMPARE(modem().timesReceived("AT+CUSD=1,\"*100#\""), 1); // the second attempt is not encoded
+    // The second attempt sends plain text.
+    QCOMPARE(modem().timesReceived("AT+CUSD=1,\"*100#\""), 1);
 }
 
 void ModemWorldTest::silenceEndsByTheClientsLimit()

@@ -19,7 +19,7 @@ namespace
 {
 
 const char IMEI[] = "350000000000017";
-// Values of the property State of a USSD session.
+// Values of the State property of a USSD session.
 const char ACTIVE[] = "2";
 const char USER_RESPONSE[] = "3";
 const int AT_ONCE = 8;
@@ -167,7 +167,8 @@ void ModemSharingTest::aForeignMenuIsShownAndNotAnswered()
     QCOMPARE(TKSV_Device_CancelRequest() != 0, true);
     QCOMPARE(other.respond("1").text, std::string("One"));
     QVERIFY(waitForForeignSession(false));
-    QCOMPARE(received().responses.all().size(), std::size_t(1)); // the menu was not delivered
+    // The other program's menu was not delivered.
+    QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
 
 void ModemSharingTest::aSessionFoundAtTheStartIsForeign()
@@ -264,7 +265,7 @@ void ModemSharingTest::cancelDoesNotEndAForeignSession()
         TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
         received().clear();
         TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
-        // By now, the earlier call must have returned.
+        // By now, the daemon must have accepted or refused *133#.
         QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_IN_USE));
         received().clear();
         QVERIFY(other.waitForProperty("State", USER_RESPONSE));
@@ -273,7 +274,8 @@ void ModemSharingTest::cancelDoesNotEndAForeignSession()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// Tests cancelling a command while polkit is waiting for a password.
+/// Tests that a command that is cancelled while polkit is waiting for a password is cancelled on
+/// the modem only after polkit has answered.
 void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
 {
     useModem();
@@ -310,8 +312,8 @@ void ModemSharingTest::polkitIsNotAskedDuringAForeignSession()
     QCOMPARE(m_world->polkit().timesAsked(), before);
 }
 
-/// Tests two programs that start a session at the same time. The daemon refuses one of the
-/// sessions. Cancelling our command must never end the other program's session.
+/// Tests that cancelling our command never ends the other program's session, even if both programs
+/// start a session at the same time. The daemon refuses one of the sessions.
 void ModemSharingTest::aCommandCancelledAtOnceSparesTheOtherProgram()
 {
     useModem();

@@ -69,10 +69,11 @@ public slots:
     }
 };
 
-/// Records the announcements in their order, on the threads that make them. A listener of the GUI
-/// thread may receive them in another order: a time-out is announced on that thread, while an
-/// earlier reply from another thread is still in its event queue. This requires that the GUI thread
-/// handles no event for as long as the time-out.
+/// Records the announcements in the order in which they are made, on the threads that make them. A
+/// listener in the GUI thread may receive them in a different order: a time-out is announced
+/// directly on this thread, while an earlier reply from another thread may still be in its event
+/// queue. This happens only if the GUI thread does not process any events for as long as the
+/// time-out.
 class Announcements : public QObject
 {
     Q_OBJECT

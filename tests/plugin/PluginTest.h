@@ -24,7 +24,7 @@ protected:
     void writeConfig(const QByteArray &xml);
     /// Replaces the system profile file. An empty string deletes the file.
     void writeSystemProfiles(const QByteArray &xml);
-    QString pluginFolder(); ///< the directory with both files, without a trailing separator
+    QString pluginFolder(); ///< the directory with these two files, without a trailing separator
     QString userFolder();   ///< the user data directory, with a trailing separator
 
     /// Returns a complete but small configuration that contains all sections, colours and IMSI

@@ -40,7 +40,7 @@ void PresetButtonsTest::editAndPress(const char *button)
 {
     bool pressed = false;
     QTimer::singleShot(0, this, [&] {
-        // The editor's window has the dialog's container as its parent.
+        // The editor's window is a child of the widget that contains the dialog.
         QPushButton *found = page()->findChild<QPushButton *>(
             latin1("USSDUIPlugin_ProfileDialog_") + latin1(button));
         if (!found)

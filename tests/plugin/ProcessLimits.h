@@ -27,8 +27,8 @@ private:
     rlimit m_before;
 };
 
-/// Runs the process as an ordinary user while an object of this class exists. The permissions of
-/// files do not restrict root.
+/// Runs the process as an ordinary user while an object of this class exists, because file
+/// permissions do not restrict root.
 class OrdinaryUser
 {
 public:

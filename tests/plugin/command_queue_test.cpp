@@ -233,8 +233,8 @@ void CommandQueueTest::headThatWaitsForTheDeviceIsNotAnswered()
     QCOMPARE(m_queue.claimHeadInFlight(m_head), CommandQueue::ClaimedByOther);
 }
 
-/// Tests a late reply after a command was refused. The reply answers the next command, although
-/// this command has not been sent.
+/// Tests that a late reply after a refused command answers the next command, although the next
+/// command has not been sent.
 void CommandQueueTest::headThatNobodySendsIsAnswered()
 {
     QVERIFY(m_queue.markHeadSent(m_head));

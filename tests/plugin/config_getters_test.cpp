@@ -236,7 +236,7 @@ void ConfigGettersTest::emptyImsiNeverMatches()
     QCOMPARE(flagsOf(QString()), -1);
 }
 
-/// Compares the result with a linear search in a map of random prefixes.
+/// Tests that matchImsi() gives the same results as a linear search in maps of random prefixes.
 void ConfigGettersTest::longestPrefixIsFoundAmongManyRandomOnes()
 {
     std::srand(20260101);
@@ -354,7 +354,7 @@ void ConfigGettersTest::missingFileLeavesDefaultsAndIsLogged()
     logic();
     const QString path = pluginFolder() + latin1("/USSDPluginConfig.xml");
     QCOMPARE(timesLogged(latin1("xmlFilePath = ") + path), 1);
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged("openXMLFile Exit: XML File is not opened"), 2);
     for (int component : {BALANCE, CHARGE, ONLINE_CHARGE, MSISDN}) {
         QCOMPARE(number(PREPAID, component, ATTR_VALUE), 0);
@@ -376,7 +376,7 @@ void ConfigGettersTest::oddFileIsLikeAMissingOne()
     const QString path = pluginFolder() + latin1("/USSDPluginConfig.xml");
     const QString said = path + latin1(": ") + OddFiles::make(path);
     logic();
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged(latin1("openXMLFile ") + said), 2);
     QCOMPARE(timesLogged("openXMLFile Exit: XML File is not opened"), 2);
     QVERIFY(!logic()->IsImsiDynamicMatch());

@@ -212,8 +212,8 @@ void ConfigSectionsTest::brokenXmlKeepsWhatWasReadBefore()
     QVERIFY(!logic()->IsImsiDynamicMatch());
 }
 
-/// Tests a repeated attribute, which makes the document malformed. No attribute of the element may
-/// be used, although the parser has read both values before it reports the error.
+/// Tests that no attribute of an element is used if one of its attributes is repeated. Such a
+/// document is malformed, although the parser has read both values before it reports the error.
 void ConfigSectionsTest::startTagAtFaultHasNoAttributes()
 {
     writeConfig("<c><clearHistory visible='true' showConfirmDialog='true' visible='true'/></c>");
@@ -408,7 +408,7 @@ void ConfigSectionsTest::deepNestingIsReadToItsEnd()
                        fourItems(), "<name>" + nested("deep") + "</name>" + looks()));
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*1#"));
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*2#"));
-    // This section follows the second deeply nested element.
+    // The "send" section is found, although it follows the second deeply nested element.
     QCOMPARE(look(CHAR_SET_SEND).yHeight, 20);
 }
 
@@ -428,7 +428,7 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     for (const char *section :
          {"PrePostDiffer", "Prepaid", "Postpaid", "send", "recevie", "cmdEdit", "autoUSSD"})
         QTest::newRow(section) << QByteArray(section) << true;
-    // The first elements with these names are in the "send" section.
+    // The parser takes these elements from the "send" section, which contains the first ones.
     for (const char *child : {"yHeight", "yOffset", "color"})
         QTest::newRow(child) << QByteArray(child) << true;
     for (const char *child : {"readonlycolor", "commoncolor", "headcolor"})
@@ -437,9 +437,10 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     QTest::newRow("none") << QByteArray("other") << false;
 }
 
-/// Checks only the last section, because the getters read the other sections again. If a section is
-/// missing, all sections after it are skipped. Therefore, finding the last section proves that all
-/// other sections were found when the file was first read.
+/// Tests that the parser searches for each section at its position in the file. If a section is
+/// missing, the parser skips all sections after it. The test therefore renames one element at a
+/// time, and checks whether the last section is found. The other sections are not checked, because
+/// their getters read the file again.
 void ConfigSectionsTest::eachSectionIsSoughtInItsPlace()
 {
     QFETCH(QByteArray, element);

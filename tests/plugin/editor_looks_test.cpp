@@ -125,8 +125,8 @@ void EditorLooksTest::messagesInMiniModeStandOverTheEditor_data()
     QTest::newRow("otherwise") << false;
 }
 
-/// Tests the message about a duplicate, and the message box that asks for confirmation before
-/// saving.
+/// Tests that, in mini mode, the editor is the parent of the message about a duplicate and of the
+/// message box that asks for confirmation before saving. Otherwise, they have no parent.
 void EditorLooksTest::messagesInMiniModeStandOverTheEditor()
 {
     QFETCH(bool, mini);
@@ -187,7 +187,8 @@ void EditorLooksTest::headsStandWhereTheirColumnsBegin_data()
     QTest::newRow("Arabic") << QStringLiteral("ar") << true;
 }
 
-/// Compares screenshots, because render() does not mirror the header in right-to-left languages.
+/// Tests that each column title is painted at the start of its column. Compares screenshots,
+/// because render() does not mirror the header in right-to-left languages.
 void EditorLooksTest::headsStandWhereTheirColumnsBegin()
 {
     QFETCH(QString, language);
@@ -303,7 +304,7 @@ void EditorLooksTest::hostMayShutDownWhileTheEditorIsOpen()
     QVERIFY(!table());
 }
 
-/// Tests a host that shuts the plug-in down while a message box without a parent is open.
+/// Tests that a host may shut the plug-in down while a message box without a parent is open.
 void EditorLooksTest::hostMayShutDownWhileTheQuestionIsOpen()
 {
     QRect rect(0, 0, 640, 560);

@@ -371,7 +371,8 @@ void EditorSavingTest::fileThatCameAfterTheReadingIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// Tests the message if the folder cannot be created because a dangling link has the same name.
+/// Tests that the error message contains the path of the file if the folder cannot be created
+/// because a dangling link has the same name.
 void EditorSavingTest::fileThatFailsWhileItIsWrittenIsSaid()
 {
     QVERIFY(QFile::link(folder() + QLatin1String("/nowhere"), folder() + QLatin1String("/link")));

@@ -132,7 +132,8 @@ void EditorTableTest::textThatDiffersInCaseIsNoDuplicate()
     QCOMPARE(cell(4, column), other);
 }
 
-/// Tests a second duplicate that is typed before the message about the first one has opened.
+/// Tests that a second duplicate that is typed before the message about the first one has opened is
+/// also rejected.
 void EditorTableTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
 {
     openEditor();
@@ -142,7 +143,7 @@ void EditorTableTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
     QTest::keyClicks(cellEditor(), QStringLiteral("*100#"));
     whenMessageOpens([this](QMessageBox *box) {
         QVERIFY(box->text().contains(USSDLogic::tr(QStringLiteral("IDS_COMMAND_NAME"))));
-        QCOMPARE(table()->currentItem(), table()->item(1, 0)); // the duplicate cell
+        QCOMPARE(table()->currentItem(), table()->item(1, 0)); // the cell with the duplicate
         answerNextMessage(QStringLiteral("IDS_OK"));
         press(box, QStringLiteral("IDS_OK"));
     });
@@ -187,7 +188,7 @@ void EditorTableTest::readOnlyProfileCannotBeEditedAndHasItsColour()
 void EditorTableTest::savingWithoutChangesAsksNothingAndWrites()
 {
     openEditor();
-    const QByteArray system = contentOf(systemFile()); // does not contain line breaks
+    const QByteArray system = contentOf(systemFile()); // without the line breaks that saving adds
     QVERIFY(!QFile::exists(userFile()));
     QTest::mouseClick(saveButton(), Qt::LeftButton); // a message box would block the test here
     QVERIFY(QFile::exists(userFile()));

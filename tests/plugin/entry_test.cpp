@@ -111,7 +111,8 @@ const char VERIFICATION[] = "pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\
                             "buildkey=" USSD_QT4_BUILD_KEY;
 
 /// Returns the build key that Qt 4 would read from the library file. Qt 4 searches the file for the
-/// pattern, and reads to the end of the line or string.
+/// first line of the verification data, and reads the build key up to the end of the line or
+/// string.
 QByteArray keyThatQt4Reads()
 {
     QFile file(QString::fromLocal8Bit(USSD_PLUGIN_FILE));
@@ -148,7 +149,7 @@ void EntryTest::noQt4HostTakesThisBuild()
     QVERIFY(key != USSD_QT4_BUILD_KEY);
 }
 
-/// Tests the default value of the CMake variable for the build key.
+/// Tests that the CMake variable for the build key has the known default value.
 void EntryTest::shippedBuildKeyIsTheKnownOne()
 {
     QFile file(QStringLiteral(USSD_SOURCE_DIR "/CMakeLists.txt"));

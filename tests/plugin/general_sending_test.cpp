@@ -254,7 +254,7 @@ void GeneralSendingTest::answerOfAnotherComponentIsIgnored()
     emit USSDLogic::GetUSSDLogicInstance()->responseReceived(component, latin1("not mine"));
     QCOMPARE(shownLines().count(), 1);
     QVERIFY(isWaiting());
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged("OnResponseReceived Exit: USSDGeneralDlg no need to handle"), 2);
 }
 
@@ -296,8 +296,8 @@ void GeneralSendingTest::answersOfManyCommandsStandInOrder()
     QCOMPARE(requests().count(), 30);
 }
 
-/// Tests a late answer. Answers do not contain the command to which they belong, so a late answer
-/// is shown as the answer to the current command.
+/// Tests that a late answer is shown as the answer to the current command. Answers do not identify
+/// the command to which they belong.
 void GeneralSendingTest::lateAnswerAfterTheNextCommandIsTakenForIts()
 {
     open(WINDOW_MODEL_MODAL);
@@ -338,7 +338,7 @@ void GeneralSendingTest::keysTypedAfterAnAnswerReachTheCommandEdit()
     QTest::keyClicks(QApplication::focusWidget(), latin1("1"));
     QCOMPARE(commandEdit()->text(), latin1("1"));
     QVERIFY(sendButton()->isEnabled());
-    QVERIFY(combo()->hasFocus()); // the focus proxy of the visible field
+    QVERIFY(combo()->hasFocus()); // the combo box is the focus proxy of the visible field
 }
 
 void GeneralSendingTest::keysTypedAfterALocalFailureReachTheCommandEdit()

@@ -1,6 +1,6 @@
 #include "GeneralDialogTest.h"
 
-/** Tests the transcript of the general dialog, the payment edit, the language and closing. */
+/** Tests the general dialog: the transcript, the payment field, language changes, and closing. */
 class GeneralTranscriptTest : public GeneralDialogTest
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ void GeneralTranscriptTest::lineBreakInACommandIsShownAsBr()
     emit dialog()->preBtnClickedEvent(latin1("*1\n2#"));
     QVERIFY(history()->entries().contains(latin1("*1<br>2#</span></p>")));
     QVERIFY(!history()->entries().contains(QLatin1Char('\n')));
-    QCOMPARE(requests(), QStringList{latin1("*1\n2#")}); // sent unchanged
+    QCOMPARE(requests(), QStringList{latin1("*1\n2#")}); // the line break is sent unchanged
 }
 
 void GeneralTranscriptTest::rightToLeftParagraphsSaySo()
@@ -454,7 +454,7 @@ void GeneralTranscriptTest::modalDialogShownAgainHasAnEmptyTranscript()
     dialog()->ReInitDialog();
     QVERIFY(shownLines().isEmpty());
     QCOMPARE(history()->entries(), QString());
-    QVERIFY(clearButton()->isEnabled()); // the button is still enabled
+    QVERIFY(clearButton()->isEnabled()); // although the transcript is empty
     send(latin1("*101#"));
     QCOMPARE(shownLines(), QStringList{sentLine(latin1("*101#"))});
 }

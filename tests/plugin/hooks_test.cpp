@@ -135,7 +135,7 @@ void HooksTest::deviceEventLeavesTheTimerRunning()
     QElapsedTimer elapsed;
     elapsed.start();
     m_logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*2#")), &status);
-    QVERIFY(elapsed.elapsed() >= 24); // waited for the earlier time-out
+    QVERIFY(elapsed.elapsed() >= 24); // the call has waited for the earlier time-out
 }
 
 // ---- readiness -----------------------------------------------------------------------------

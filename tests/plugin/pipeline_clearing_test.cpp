@@ -256,7 +256,7 @@ void PipelineClearingTest::constructionLogsEachRegistration()
                      QStringLiteral(": Calling TKSV_SMSSrv_RegCallBack ()"),
                      QStringLiteral(": TKSV_SMSSrv_RegCallBack () returned 0"),
                      QStringLiteral(" Exit")}));
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     const QString before = QStringLiteral(" before calling TKSV_USSDSrv_RegisterUSSDCallback()");
     QCOMPARE(
         linesOf("registerUSSDCallback"),
@@ -460,9 +460,8 @@ void PipelineClearingTest::newSingletonStartsWithAnEmptyList()
     QVERIFY(fakeSdkCommands().back() == u"*3#");
 }
 
-/// Tests a late reply that arrives before the next command has been sent. The next command is
-/// waiting for a thread that is still sending a cleared command. The reply must not be used as the
-/// answer to the next command.
+/// Tests that a late reply is not used as the answer to a command that has not been sent yet. The
+/// command is waiting for a thread that is still sending a cleared command.
 void PipelineClearingTest::lateReplyDoesNotAnswerACommandBeforeItIsSent()
 {
     setTimes(NO_PATIENCE, 1);
@@ -491,8 +490,8 @@ void PipelineClearingTest::lateReplyDoesNotAnswerACommandBeforeItIsSent()
     QVERIFY(answers().isEmpty());
 }
 
-/// Tests random coincidences of replies, late replies and time-outs. Each command must be answered
-/// exactly once.
+/// Tests that each command is answered exactly once, even if replies, late replies and time-outs
+/// coincide.
 void PipelineClearingTest::everyCommandIsAnsweredOnce()
 {
     const int count = 400;

@@ -209,7 +209,7 @@ void PipelineSendingTest::commandSentBySdkThreadTimesOutToo()
 {
     send(3, QStringLiteral("*1#"));
     send(0, QStringLiteral("*2#"));
-    setTimes(5, NO_PATIENCE); // for the second command only
+    setTimes(5, NO_PATIENCE); // applies only to the second command
     fakeSdkRespond(u"one");
     QCOMPARE(nextAnswer(), answer(3, QStringLiteral("one")));
     QCOMPARE(nextAnswer(), answer(0, timeOutText()));
@@ -293,7 +293,7 @@ void PipelineSendingTest::nullDataLeavesListAndTimer()
     fakeSdkRespondNull();
     QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged("Fail Exit: Response data is NULL"), 2);
     USSDLogic::ClearQueuedCmds();
     QVERIFY(sendWaitsItsTime()); // the timer is still running

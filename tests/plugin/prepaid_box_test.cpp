@@ -189,7 +189,8 @@ void PrepaidBoxTest::controlsAndBalanceWaitForTheBox()
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_WAITTING"));
 }
 
-/// Tests two replies in quick succession. An operator may confirm a top-up with two messages.
+/// Tests that replies in quick succession are shown in separate message boxes, one after the other.
+/// An operator may confirm a top-up with two messages.
 void PrepaidBoxTest::replyInABurstHasABoxOfItsOwn()
 {
     openReady();
@@ -280,7 +281,7 @@ void PrepaidBoxTest::hostActsWhileTheBoxIsOpen_data()
     QTest::newRow("deletes its window") << int(DELETION_OF_ITS_WINDOW);
 }
 
-/// Tests a host that closes or deletes the window while the box is open. Pressing Return in the
+/// Tests that a host may close or delete the window while the box is open. Pressing Return in the
 /// entry field opens the box; the host reacts in a timer event.
 void PrepaidBoxTest::hostActsWhileTheBoxIsOpen()
 {

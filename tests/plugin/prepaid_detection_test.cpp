@@ -247,8 +247,8 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking_data()
     QTest::newRow("opened, then asked") << false;
 }
 
-/// Tests the notifications for two windows. Only one window has sent the detection request, but
-/// both receive the answer.
+/// Tests that two windows notify the host in the order in which they were created. Both receive the
+/// answer, although only one of them has sent the detection request.
 void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
 {
     QFETCH(bool, prepaidFirst);
@@ -358,7 +358,7 @@ void PrepaidDetectionTest::withoutAContainerItIsLogged()
     expectWarning(": sendNotify: Plugin container is null ");
     ask();
     networkSays(digitPatternReply());
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged(": sendNotify: Plugin container is null "), 2);
 }
 

@@ -300,7 +300,7 @@ void PrepaidLayoutTest::componentsStandInOrderOfPos()
 
 void PrepaidLayoutTest::separatorsStandBetweenComponents_data()
 {
-    QTest::addColumn<QList<int>>("order"); // of the four components; -1 hides a component
+    QTest::addColumn<QList<int>>("order"); // the order of the four components; -1 hides a component
     QTest::newRow("as usual") << (QList<int>() << 0 << 1 << 2 << 3);
     QTest::newRow("number first") << (QList<int>() << 1 << 2 << 3 << 0);
     QTest::newRow("number second") << (QList<int>() << 0 << 2 << 3 << 1);
@@ -437,8 +437,8 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
     QVERIFY(link()->text().startsWith(QLatin1String("<a href=\"") + QString::fromLatin1(url)));
 }
 
-/// Tests an address that just fits, and one that is a single character too long and is therefore
-/// elided to 300 pixels.
+/// Tests that an address that just fits is shown completely, and that an address that is one
+/// character too long is elided to 300 pixels.
 void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 {
     const QFontMetrics metrics(QApplication::font());

@@ -210,8 +210,8 @@ void PrepaidOpeningTest::openingAsksOnlyForWhatIsShown()
     QTEST(requests(), "sent");
 }
 
-/// Tests an empty command. The parser also returns an empty command if an error in the file has cut
-/// off the command.
+/// Tests that an empty command is not sent. The parser also returns an empty command if an error in
+/// the file has cut off the command.
 void PrepaidOpeningTest::emptyCommandIsNotSent()
 {
     Account account;

@@ -22,7 +22,7 @@ TopUpInputLimits rules(int length, int minlenth, const char *limitText = "0-9")
 
 } // namespace
 
-/** Tests the rules of the account window without the window. */
+/** Tests the rules of the account window without creating the window. */
 class PrepaidRulesTest : public UssdTest
 {
     Q_OBJECT
@@ -123,7 +123,7 @@ void PrepaidRulesTest::onlyACountedClassIsUsable()
     QTEST(isChargeExpressionUsable(rules(length, 0, limitText.constData())), "usable");
 }
 
-/// Tests a limit text that would expand to a billion characters.
+/// Tests that a limit text that would expand to a billion characters is rejected.
 void PrepaidRulesTest::hostileLimitTextIsRefusedAtOnce()
 {
     QVERIFY(!isChargeExpressionUsable(rules(16, 12, "a]|((a{1000}){1000}){1000}|[b")));

@@ -95,7 +95,7 @@ void PrepaidSendingTest::answerEnablesThemAgain()
     QFETCH(int, component);
     Account account;
     if (component == COMPONENT_CHARGE)
-        // Prevents the balance request that would follow.
+        // Prevents the balance request that would follow the top-up.
         account.balance.clear();
     configure(account);
     make();
@@ -355,7 +355,7 @@ void PrepaidSendingTest::failedTopUpIsToldLikeAnAnswer()
 
 void PrepaidSendingTest::returnKeySendsOnce()
 {
-    refuseAll(1); // leaves the button enabled, so a second press would send
+    refuseAll(1); // the button stays enabled, so a second command could be sent
     configure(only(chargeItem(0)));
     open();
     type(pin());
@@ -446,8 +446,8 @@ void PrepaidSendingTest::heldReturnAfterARefusalTriesOnce()
     QCOMPARE(requests().filter(pin()).count(), 1);
 }
 
-/// Tests a key that is held down. Some remote desktops report only presses in this case, without
-/// releases.
+/// Tests that only one top-up is sent while Return is held down. Some remote desktops report only
+/// presses in this case, without releases.
 void PrepaidSendingTest::heldReturnWithoutItsReleasesTopsUpOnce()
 {
     refuseAll(1);

@@ -154,7 +154,7 @@ void PresetGridTest::eachBoxStandsInTheGridEvenWhenEmpty()
             places << placeInGrid(grid(), i);
     }
     QCOMPARE(places, (QStringList{latin1("0,0 4x1"), latin1("4,0 4x1"), latin1("8,0 3x2")}));
-    for (int row : {0, 4, 8}) { // the style adds gaps as button margins
+    for (int row : {0, 4, 8}) { // no spacing, because the buttons have margins in this style
         QVBoxLayout *box = qobject_cast<QVBoxLayout *>(grid()->itemAtPosition(row, 0)->layout());
         QVERIFY(box);
         QCOMPARE(box->spacing(), 0);

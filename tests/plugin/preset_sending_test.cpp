@@ -108,7 +108,7 @@ void PresetSendingTest::numberWithPlaceholderLetterIsNotReplacedAgain()
 {
     writeCodes({"%%s"});
     open();
-    paymentEdit()->setText(latin1("s%s")); // set without being checked by the field
+    paymentEdit()->setText(latin1("s%s")); // setText() bypasses the checks of the field
     presetButtons().first()->setEnabled(true);
     click(presetButtons().first());
     QCOMPARE(requests(), QStringList{latin1("%s%s")});

@@ -125,7 +125,7 @@ void ProfileListTest::getProfileListReplacesTheCallersList()
     profiles << profile(latin1("old"), latin1("*9#"));
     store.GetProfileList(profiles);
     QCOMPARE(codes(profiles), QStringList{latin1("*1#")});
-    profiles.clear(); // does not affect the original list
+    profiles.clear(); // does not affect the list in `store`
     QCOMPARE(codes(list(store)), QStringList{latin1("*1#")});
 }
 
@@ -318,7 +318,7 @@ void ProfileListTest::missingUserFileKeepsTheSystemProfiles()
 {
     writeSystemProfiles(profileFile(profileItem("A", "*1#")));
     QCOMPARE(codes(loaded()), QStringList{latin1("system *1#")});
-    // Logged both as a debug message and as a warning.
+    // This line is logged twice: as a debug message and as a warning.
     QCOMPARE(timesLogged("load Exit: XML File is not opened"), 2);
     QCOMPARE(timesLogged(latin1("load Enter: xmlFilePath = ") + userFile()), 1);
 }

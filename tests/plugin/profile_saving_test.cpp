@@ -104,8 +104,9 @@ void ProfileSavingTest::permissionCallHasNoEffect()
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
 }
 
-/// Tests an installation in which the file in the plug-in's folder is a link to a configuration
-/// file in /etc. The link belongs to a package, so saving must not replace it with a file.
+/// Tests that saving writes to the target of a link and preserves the link. In some installations,
+/// the file in the plug-in's folder is a link to a configuration file in /etc. The link belongs to
+/// a package, so it must not be replaced with a file.
 void ProfileSavingTest::linkedSystemFileIsSavedBehindTheLink()
 {
     const QString target = folder() + latin1("/configured.xml");
@@ -198,8 +199,8 @@ void ProfileSavingTest::readOnlyFolderIs25()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// Tests a folder that is read-only: a file in it cannot be deleted, but it can be opened for
-/// writing.
+/// Tests that a file in a read-only folder is overwritten. Such a file cannot be deleted, but it
+/// can be opened for writing.
 void ProfileSavingTest::readOnlyFolderLeavesAnOldFileToBeWritten()
 {
     writeUserProfiles(profileItem("U", "*2#"));
@@ -236,8 +237,8 @@ void ProfileSavingTest::fileThatCannotBeDeletedStaysReadable()
     QCOMPARE(status, 0);
 }
 
-/// Tests a full disk. saveToXMLFile() deliberately reports success. When the file is read again,
-/// all profiles before the truncated one are available.
+/// Tests that a file that was truncated because the disk was full can be read again, up to the
+/// truncated profile. saveToXMLFile() deliberately reports success.
 void ProfileSavingTest::fullDiskLeavesAFileThatCanBeRead()
 {
     QByteArray items;

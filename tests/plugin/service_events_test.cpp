@@ -124,7 +124,7 @@ void ServiceEventsTest::imsiEventLeavesTheUssdSmsWindow()
     QVERIFY(frame() && frame()->isVisible());
 }
 
-/// Tests a host that shuts the plug-in down when the first frame closes.
+/// Tests that a host may shut the plug-in down when the first frame closes.
 void ServiceEventsTest::imsiEventMayEndInAShutDown()
 {
     for (int type : {3, 1, 0})

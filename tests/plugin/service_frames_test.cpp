@@ -194,7 +194,8 @@ void ServiceFramesTest::rejectedFrameIsClosed_data()
     QTest::newRow("general") << 3;
 }
 
-/// Tests a frame that is closed with reject(), which does not send a close event.
+/// Tests that a frame that is closed with reject() reports this once and is deleted. reject() does
+/// not send a close event.
 void ServiceFramesTest::rejectedFrameIsClosed()
 {
     QFETCH(int, type);
@@ -244,8 +245,8 @@ void ServiceFramesTest::closeRequestLeavesTheUssdSmsWindow()
     QVERIFY(frame() && frame()->isVisible());
 }
 
-/// Tests a close request after the USSD-SMS window was opened. The stored window type is then that
-/// of the USSD-SMS window, for which close requests are ignored.
+/// Tests that close requests are ignored after the USSD-SMS window was opened, because the service
+/// then stores the type of this window.
 void ServiceFramesTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
 {
     service()->DoModal();

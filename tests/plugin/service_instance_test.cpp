@@ -5,7 +5,7 @@
 
 #include "profiles/USSDEditCmd.h"
 
-/** Tests the singleton, its results without a window, its log lines and its destruction. */
+/** Tests the singleton: its results if no window is open, its log lines, and its destruction. */
 class ServiceInstanceTest : public ServiceTest
 {
     Q_OBJECT
@@ -72,8 +72,8 @@ void ServiceInstanceTest::imsiQuestionsReachTheLogic()
 
 // ---- the log ------------------------------------------------------------------------------------
 
-/// Tests classes that are implemented in several files. All log lines of such a class contain the
-/// name of the same file.
+/// Tests that all log lines of a class contain the same file name, even if the class is implemented
+/// in several files.
 void ServiceInstanceTest::logLinesNameTheFileOfTheirClassFamily()
 {
     for (int type : {3, 0, 5})

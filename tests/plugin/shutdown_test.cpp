@@ -31,7 +31,7 @@ namespace
 
 const char CALLS[] = "uod"; // the letters stand for UnSDKRegisterEvent, OnDestroy and delete
 const int LONGEST = 5;
-const int EACH_ONCE = 3; // the length in states that take long to reach
+const int EACH_ONCE = 3; // the number of calls in states that take long to reach
 
 enum State {
     NothingShown,
@@ -42,7 +42,7 @@ enum State {
     PrepaidOpen,
     PostpaidOpen,
     SmsOpen,
-    ModalClosed, // closed by the user in the event loop iteration of the shut-down
+    ModalClosed, // closed by the user in the same event loop iteration as the shut-down
     PrepaidClosed,
     PostpaidClosed,
     SmsClosed,
@@ -335,7 +335,7 @@ void ShutdownTest::insideTheCloseEventOfAFrame_data()
 }
 
 /// Connects to the dialog before the service does. The service connects again each time a window is
-/// shown, so showing it again changes the order.
+/// shown, so showing the window again changes the order of the connections.
 void ShutdownTest::hearDialogIn(QWidget *frame, int type)
 {
     for (QWidget *widget : frame->findChildren<QWidget *>()) {
@@ -345,7 +345,7 @@ void ShutdownTest::hearDialogIn(QWidget *frame, int type)
     openModal(type);
 }
 
-/// Tests a host that shuts the plug-in down during the close event of a frame. The library is
+/// Tests that a host may shut the plug-in down during the close event of a frame. The library is
 /// unloaded only after the event.
 void ShutdownTest::insideTheCloseEventOfAFrame()
 {

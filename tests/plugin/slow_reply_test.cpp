@@ -119,9 +119,9 @@ void SlowReplyTest::holdReply()
         std::this_thread::yield();
 }
 
-/// Tests a reply whose thread is suspended between claiming its command and cancelling the
-/// time-out. Meanwhile, a device event removes the command and the next command is sent. The reply
-/// must not cancel the time-out of the next command.
+/// Tests that a slow reply does not cancel the time-out of the next command. The thread of the
+/// reply is suspended between claiming its command and cancelling the time-out. Meanwhile, a device
+/// event removes the command, and the next command is sent.
 void SlowReplyTest::timeOutOfTheNextCommandIsNotStopped()
 {
 #ifdef USSD_THREAD_SANITIZER

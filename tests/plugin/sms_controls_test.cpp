@@ -9,7 +9,9 @@ const QSize DECORATION(8, 40); // space for the title bar of a frame
 
 } // namespace
 
-/** Tests how the USSD-SMS dialog reads its layout file, and its tree and controls. */
+/**
+ * Tests the tree and the controls of the USSD-SMS dialog, and how the dialog reads its layout file.
+ */
 class SmsControlsTest : public SmsDialogTest
 {
     Q_OBJECT
@@ -192,7 +194,7 @@ void SmsControlsTest::configurationIsReadAnewOnDemand()
     QCOMPARE(m_dialog->GetSize(), QSize(77, 88));
     QVERIFY(tree()->isEnabled());
     QVERIFY(button()->isHidden());
-    select(PREPAID); // the entry of this row no longer exists
+    select(PREPAID); // the new file does not contain this service
     QVERIFY(button()->isHidden());
     m_dialog->InitTree();
     m_dialog->SetLanguage();
@@ -327,7 +329,8 @@ void SmsControlsTest::firstServiceIsSelectedAtFirst()
     QCOMPARE(requests(), QStringList() << latin1("*100#"));
 }
 
-/// Tests that the first row is not selected if its number is -1, which means "no entry".
+/// Tests that the first row is selected even if its number is negative. The only exception is the
+/// number -1, which means "no entry".
 void SmsControlsTest::firstRowMadeIsSelectedWhateverItsNumber()
 {
     openWith(config()

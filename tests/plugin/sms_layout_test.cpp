@@ -571,8 +571,8 @@ void SmsLayoutTest::deepNestingOutsideTheSectionEnds()
     QCOMPARE(m_layout->dialog.width, 9);
 }
 
-/// Tests an undeclared entity. If the document refers to an external DTD, the XML parser skips the
-/// entity without reporting an error.
+/// Tests that a text with an undeclared entity is discarded. If the document refers to an external
+/// DTD, the XML parser skips the entity without reporting an error.
 void SmsLayoutTest::textWithAnUnknownEntityIsNotTaken()
 {
     const QByteArray control = "<control><command>*10&bad;3#</command></control>";

@@ -163,7 +163,8 @@ void SmsResultTest::languageChangeKeepsInputAndAnswer()
     QVERIFY(button()->isEnabled());
 }
 
-/// Tests a row that is current but not selected, for example after it was clicked with Ctrl.
+/// Tests that a language change preserves the input if the current row is not selected, for example
+/// after it was clicked with Ctrl.
 void SmsResultTest::languageChangeKeepsInputOfARowNotSelected()
 {
     select(CALL);

@@ -150,7 +150,8 @@ void SmsSendingTest::emptyNumberIsEnabledByReadiness()
     QVERIFY(button()->isEnabled());
 }
 
-/// Tests that pressing the button disables the field until a service is selected again.
+/// Tests that the device's readiness enables the button for an empty message, but that pressing the
+/// button does not send the message. The field then stays disabled until a service is selected.
 void SmsSendingTest::emptyCommandIsEnabledByReadinessButNotSent()
 {
     openWith(config().replace("WEATHER %s", ""));
@@ -452,7 +453,7 @@ void SmsSendingTest::smsResultWhileNotBusyIsShown_data()
     QTest::newRow("failed") << 7 << text("IDS_SMS_SEND_FAILED");
 }
 
-/// Tests a result that arrives when the dialog is not busy. Such a result may belong to another
+/// Tests that a result is shown even if the dialog is not busy. Such a result may belong to another
 /// program that has sent the same text to the same number.
 void SmsSendingTest::smsResultWhileNotBusyIsShown()
 {
@@ -518,8 +519,9 @@ void SmsSendingTest::releaseErrorIsLoggedOnly()
     QCOMPARE(timesLogged("SendSMS: TKSV_SMSSrv_ReleaseSMSRecord returned error"), 1);
 }
 
-/// Tests a click that comes after the device has reported the loss, but before the queued signal is
-/// processed. The field deliberately stays disabled until a service is selected.
+/// Tests that a message is not sent if the button is clicked after the device has become unable to
+/// send, but before the queued signal is processed. The field deliberately stays disabled until a
+/// service is selected.
 void SmsSendingTest::lostReadinessAtTheLastMomentFails()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);

@@ -280,9 +280,8 @@ void StormTest::everyCommandIsAnsweredAsTheModelSays()
     QCOMPARE(m_model.pending(), 0);
 }
 
-/// Sends replies, time-outs, device events and clear calls concurrently from separate threads. No
-/// command may be answered twice, and all commands that are still pending at the end must be
-/// answered.
+/// Tests that no command is answered twice and that all pending commands are answered in the end.
+/// Replies, time-outs, device events and clear calls occur concurrently in separate threads.
 void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
 {
     const int commands = number("USSD_STORM_COMMANDS", 5000);

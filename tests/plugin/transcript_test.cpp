@@ -129,7 +129,7 @@ struct RandomEntries {
     QVector<Piece> kinds;
     bool leftToRight;
     bool rightToLeft;
-    int oftenBlank; ///< one caption out of this many is blank
+    int oftenBlank; ///< on average, one of this many captions is blank
     std::mt19937 &random;
 
     bool isRightToLeft() { return rightToLeft && (!leftToRight || random() % 2 == 0); }

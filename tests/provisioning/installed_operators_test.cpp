@@ -178,7 +178,7 @@ void InstalledOperatorsTest::operatorsOfTheDatabase()
     QFETCH(int, index);
     const Provider &provider = g_database.providers.at(index);
     const ProvisionPlan plan = provisionPlan(provider);
-    if (plan.isEmpty()) { // only phone numbers, or messages without a text
+    if (plan.isEmpty()) { // the operator has only phone numbers, or messages without a text
         QCOMPARE(usableCodes(provider), QStringList());
         QVERIFY(!plan.notes.isEmpty());
         return;

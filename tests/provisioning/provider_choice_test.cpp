@@ -3,7 +3,7 @@
 
 using namespace Provisioning;
 
-/// Tests which operators are selected, and which are only candidates.
+/// Tests which operators match a query, and whether one of them is selected automatically.
 class ProviderChoiceTest : public UssdTest
 {
     Q_OBJECT

@@ -11,8 +11,8 @@
 using namespace Formats;
 using namespace Provisioning;
 
-/// Tests how an operator's codes are distributed to the windows, and the files that are generated
-/// for them.
+/// Tests how an operator's codes are distributed among the windows, and the files that are
+/// generated for them.
 class ProvisionPlanTest : public UssdTest
 {
     Q_OBJECT
@@ -103,7 +103,7 @@ void ProvisionPlanTest::templates_data()
     plain("*101#", "*101#");
     plain("#123#", "#123#");
     plain("*#10#", "*#10#");
-    plain("*101*CODE#", ""); // nothing is replaced without the attribute
+    plain("*101*CODE#", ""); // CODE is replaced only if the attribute is set
     plain("*101*%s#", "");
     plain("*101", "");
     plain("101#", "");
@@ -187,7 +187,7 @@ void ProvisionPlanTest::plainCodesGetButtonsBeforeTwoPaymentButtons()
     asked.balance << code("*1#") << code("*2#");
     QCOMPARE(shown(provisionPlan(asked)), QStringList()
                                               << latin1("*1#") << latin1("*2#") << QString()
-                                              << QString()); // ends with two placeholders
+                                              << QString()); // the list ends with two placeholders
     asked.topUp << replaced("*4*X#", "X");
     QCOMPARE(shown(provisionPlan(asked)),
              QStringList() << latin1("*1#") << latin1("*2#") << QString() << latin1("*4*%s#"));

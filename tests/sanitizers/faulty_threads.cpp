@@ -30,7 +30,8 @@ void FaultyThreads::twoThreadsWriteOneInt()
     other.join();
 }
 
-// A write before the signal is emitted is synchronised, but a write after this is a data race.
+// A write before the signal is emitted is synchronised, but a write after the emission is a data
+// race.
 void FaultyThreads::writesAfterItsSignal()
 {
     int seen = -1;

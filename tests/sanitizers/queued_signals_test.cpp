@@ -10,7 +10,7 @@
 #include <vector>
 
 /// Runs correct code that uses every kind of thread synchronisation in this project. The sanitizers
-/// must not report any of it.
+/// must not report any errors.
 class QueuedSignalsTest : public UssdTest
 {
     Q_OBJECT
@@ -232,7 +232,7 @@ void QueuedSignalsTest::whatAThreadWroteIsSeenAfterItsEnd()
     for (int round = 0; round < 20; ++round) {
         QScopedPointer<QThread> thread(QThread::create([&] { m_plain = round; }));
         thread->start();
-        while (round % 2 && !thread->isFinished()) // in odd rounds, wait() returns at once
+        while (round % 2 && !thread->isFinished()) // makes wait() return immediately in odd rounds
             QThread::yieldCurrentThread();
         QVERIFY(thread->wait());
         QCOMPARE(m_plain, round);

@@ -1,6 +1,6 @@
 #!/bin/sh
 # check_bad_scenario.sh PROGRAM: tests that an error in the scenario file in $TKSV_SCENARIO is
-# reported only once, and that there is then no usable device.
+# reported only once, and that no device can be used in this case.
 set -eu
 file=bad.scenario
 printf '[Network]\nOperator=x\nIMSI=12\n' >"$file"

@@ -1,5 +1,5 @@
 #!/bin/sh
-# check_exit.sh PROGRAM MODE: tests that the program ends with the exit code that it passes to
+# check_exit.sh PROGRAM MODE: tests that the program ends with the exit status that it passes to
 # exit().
 code=0
 "$1" "$2" || code=$?

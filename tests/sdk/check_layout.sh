@@ -8,7 +8,7 @@ header=$3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# Compilers for processors other than x86 do not support the option -m.
+# Compilers for processors other than x86 do not support the -m option.
 case $("$compiler" -dumpmachine) in
 x86_64* | i?86*) machine=-m$bits ;;
 *) machine= ;;

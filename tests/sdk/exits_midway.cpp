@@ -1,6 +1,6 @@
 /*
  * A program that exits while the library is busy. The first argument selects when the program
- * exits. It must end with the exit code that it passes to exit().
+ * exits. The exit status must be the value that the program passes to exit().
  */
 #include <atomic>
 #include <cstdio>

@@ -168,7 +168,7 @@ void SdkDevice::pinUnlocksTheSim()
     QCOMPARE(TKSV_Device_SendPin("4711"), 0L);
     QVERIFY(waitUntil([] { return info().state == TKSV_DEVICE_REGISTERED; }));
     QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
-    QVERIFY(TKSV_Device_SendPin("4711") != 0); // the SIM card is not locked
+    QVERIFY(TKSV_Device_SendPin("4711") != 0); // the SIM card is no longer locked
 }
 
 void SdkDevice::pinsThatCannotBeAreRefused()

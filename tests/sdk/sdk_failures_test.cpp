@@ -114,8 +114,8 @@ void SdkFailures::emptyResponseHasTheReasonAsItsType()
     QCOMPARE(lastFailure().text, "");
 }
 
-/// Tests the network's closing message. With a modem, it is empty because ModemManager 1.20
-/// discards it.
+/// Tests that the network's closing message is reported. With a modem, the message is empty because
+/// ModemManager 1.20 discards it.
 void SdkFailures::closingTextIsReported()
 {
     QCOMPARE(ask(u"*134#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK));
@@ -135,7 +135,8 @@ void SdkFailures::replyIsNoFailure()
     QCOMPARE(int(lastFailure().reason), int(TKSV_FAILURE_NONE));
 }
 
-/// Sends another request from a second thread while the call-back is handling the empty response.
+/// Tests that a call-back can read the failure of its response even after another thread has sent a
+/// request. A request that the call-back itself sends clears the failure.
 void SdkFailures::reasonBelongsToTheResponseInItsCallback()
 {
     std::atomic<int> inside(-1);

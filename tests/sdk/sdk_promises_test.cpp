@@ -515,7 +515,7 @@ void SdkPromises::laterRequestReplacesTheEarlier()
 {
     QVERIFY(doInTime(10, startAfresh, [] {
         request(u"*110#");
-        request(u"*111#"); // replies later than the first request would have
+        request(u"*111#"); // its reply is due later than the reply to *110#
     }));
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
@@ -696,7 +696,7 @@ void SdkPromises::lostDeviceRaisesItsEvent()
     QFETCH(int, event);
     QCOMPARE(request(code.toStdU16String()), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
-    // 8 when the device disappears, 7 when it returns.
+    // Status 8 is reported when the device disappears, and status 7 when it returns.
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{8, 7}));
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{event});
@@ -734,8 +734,8 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
-/// Compares only the last events, because the number of preceding network changes depends on the
-/// type of device.
+/// Tests that the SMS status follows the state of the device. Compares only the last events,
+/// because the number of preceding network changes depends on the type of device.
 void SdkPromises::smsStatusFollowsTheDevice()
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n";
@@ -772,7 +772,7 @@ void SdkPromises::smsResultNamesTheMessage()
     QFETCH(QString, number);
     QFETCH(QString, text);
     QFETCH(int, result);
-    // Also frees the record.
+    // sendSms() also frees the record.
     QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()), 0L);
     QVERIFY(received().smsResults.waitFor(1));
     const SmsResult got = received().smsResults.all()[0];
@@ -906,8 +906,8 @@ void SdkPromises::garbageIsRefused()
     QVERIFY(TKSV_SMSSrv_SendMsg(sms) != 0);
 }
 
-/// Calls all functions concurrently, so that the sanitizers can detect errors. Then checks that the
-/// device still works.
+/// Tests that all functions can be called concurrently. The sanitizers detect errors during the
+/// calls. Afterwards, the device must still work.
 void SdkPromises::manyThreadsAtOnce()
 {
     std::vector<std::thread> threads;

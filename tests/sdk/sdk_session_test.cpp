@@ -190,7 +190,8 @@ void SdkSession::textDuringARequestWaitsForItsEnd()
     QVERIFY(l.replies.waitFor(2));
     QVERIFY(l.replies.all()[0].text == "reply");
     QVERIFY(l.replies.all()[1].text == "news");
-    QCOMPARE(l.replies.all()[1].type, int(UssdFinal)); // the reply that ends its session
+    // Final, because the reply has ended the session.
+    QCOMPARE(l.replies.all()[1].type, int(UssdFinal));
 }
 
 void SdkSession::textDuringAMenuWaitsForItsEnd()
@@ -260,7 +261,7 @@ void SdkSession::stopDropsWhatWaits()
 
 void SdkSession::stopDoesNotWaitForEver()
 {
-    // As at program exit, these objects are never destroyed, because the thread still uses them.
+    // These objects are never destroyed, because the thread still uses them, as at program exit.
     static Gate gate;
     static Gate left;
     static auto *service = new EventService("test");

@@ -149,7 +149,8 @@ void SdkSimulator::replacedRequestTakesNoMoney()
         request(u"*100#");
     }));
     QCOMPARE(answerTo(u"*100#"), is("0 10.00 EUR"));
-    QCOMPARE(answerTo(u"*103#"), is("0 late")); // arrives later than the first reply would have
+    // Arrives later than the reply to the first *103# would have.
+    QCOMPARE(answerTo(u"*103#"), is("0 late"));
     QCOMPARE(answerTo(u"*100#"), is("0 15.00 EUR"));
 }
 

@@ -129,10 +129,10 @@ void SdkTurn::firstComeFirstServed()
     QVERIFY(first.tryEnter());
     QVERIFY(!second.tryEnter());
     QVERIFY(!third.tryEnter());
-    QVERIFY(first.tryEnter()); // this program has kept its place in the queue
+    QVERIFY(first.tryEnter()); // `first` still has its turn
     first.leave();
     QVERIFY(!third.tryEnter());
-    QVERIFY(!first.tryEnter()); // this program is now at the end of the queue
+    QVERIFY(!first.tryEnter()); // `first` is now at the end of the queue
     QVERIFY(second.tryEnter());
     second.leave();
     QVERIFY(third.tryEnter());
@@ -167,7 +167,7 @@ void SdkTurn::programsTakeTurnsInTheirOrder()
             turn.leave();
             return hasWaited ? 0 : 1;
         }));
-        QCOMPARE(waiting.read(), 'w'); // this program has joined the queue
+        QCOMPARE(waiting.read(), 'w'); // the child process has joined the queue
     }
     holder.leave();
     for (char i = 0; i < PROGRAMS; ++i)
@@ -189,7 +189,7 @@ void SdkTurn::eightProgramsAtOnceExcludeEachOther()
                 waitForTurn(turn);
                 const int file = open(inside.constData(), O_CREAT | O_EXCL | O_CLOEXEC, 0600);
                 if (file < 0)
-                    return 1; // another program has its turn as well
+                    return 1; // another program has its turn at the same time
                 sched_yield();
                 close(file);
                 unlink(inside.constData());
@@ -215,7 +215,7 @@ void SdkTurn::programThatCrashesLeavesTheQueue()
     QCOMPARE(tickets().size(), 1);
     SessionTurn next(MODEM);
     QVERIFY(next.tryEnter());
-    QCOMPARE(tickets().size(), 1); // the ticket of this program
+    QCOMPARE(tickets().size(), 1); // the ticket of `next`
 }
 
 void SdkTurn::waitingProgramThatCrashesIsSkipped()
@@ -267,9 +267,9 @@ void SdkTurn::folderThatOthersCanWriteToIsNotUsed()
     QVERIFY(QDir(queues()).isEmpty());
 }
 
-/// Tests an environment variable with the path of another user's folder, which a program that was
-/// started with "su" can inherit. If the program created the queue there, the other user's programs
-/// could no longer use their queue.
+/// Tests that the queue is not created in another user's folder. A program that was started with
+/// "su" can inherit an environment variable with the path of such a folder. If the program created
+/// the queue there, the other user's programs could no longer use their queue.
 void SdkTurn::runtimeFolderOfAnotherUserIsNotUsed()
 {
     const uid_t another = 65534;

@@ -104,7 +104,7 @@ void SdkUserData::homeHoldsTheFolderOtherwise()
 
 void SdkUserData::withoutHomeTheUserDatabaseIsAsked()
 {
-    // Does not create the folder, because tests must not write to a real home directory.
+    // The test does not create the folder, because tests must not write to a real home directory.
     qputenv("HOME", "");
     const QString home = QString::fromLocal8Bit(getpwuid(getuid())->pw_dir);
     const QString path = QString::fromStdString(Tksv::userDataFolder());

@@ -202,7 +202,7 @@ void SoakHost::openFrame(PAID_TYPE type)
         trouble(QLatin1String("a window does not open"));
     ++m_openings;
     handleEvents();
-    waitUntilIdle(); // the window may have sent a command itself
+    waitUntilIdle(); // opening the window may have sent a command
     QWidget *frame = openFrameWidget();
     if (!frame)
         return trouble(QLatin1String("a frame is not to be seen"));

@@ -20,7 +20,7 @@ struct SoakLoad {
 /**
  * A host that uses the plug-in like a user over many months: it changes languages, opens windows,
  * sends codes with and without replies, removes devices and changes SIM cards. Everything runs in
- * this process, with the time of SoakClock. All functions must be called from the GUI thread.
+ * this process and uses SoakClock as its clock. All functions must be called from the GUI thread.
  */
 class SoakHost : public QObject
 {
@@ -31,8 +31,8 @@ public:
 
     /// Returns true if the plug-in's files have been copied and the network has been started.
     bool isReady() const { return m_isReady; }
-    /// Uses each function once. The language, the network and the restarts vary between rounds.
-    /// cycle() rounds cover all combinations.
+    /// Uses each function of the plug-in once. The language, the network and the restarts vary
+    /// between rounds. After cycle() rounds, all combinations have been used.
     void round(int number);
     static int cycle();
 

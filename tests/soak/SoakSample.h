@@ -8,7 +8,7 @@
 struct SoakSample {
     qint64 commands = 0;       // number of commands sent since the start
     qint64 openings = 0;       // number of windows opened since the start
-    double simulatedHours = 0; // since the start
+    double simulatedHours = 0; // simulated time since the start, in hours
     qint64 residentBytes = 0;  // resident set size
     qint64 heapBytes = 0;      // allocated with malloc() and not freed
     int descriptors = 0;

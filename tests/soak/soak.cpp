@@ -5,7 +5,7 @@
  *
  *   soak [--commands N] [--openings N] [--report FOLDER]
  *
- * Writes soak.png and soak.txt to FOLDER. The exit code is 0 if nothing has grown more than
+ * Writes soak.png and soak.txt to FOLDER. The exit status is 0 if nothing has grown more than
  * permitted and all commands had an outcome, 2 if the run could not be started, and 1 otherwise.
  */
 #include <QApplication>
@@ -26,14 +26,14 @@ namespace
 {
 
 const double HOUR = 3600 * 1000.0; // ms
-const int OPENINGS_IN_ROUND = 6;   // page, editor, four frames
+const int OPENINGS_IN_ROUND = 6;   // the page, the editor and four frames
 const int OTHERS_IN_ROUND = 2;     // one without a reply, and one that the device cancels
 const int SAMPLES = 200;
 
 struct Order {
     qint64 commands = 2000;
     qint64 openings = 200;
-    QString report; // a folder; empty for no report
+    QString report; // the folder for the report; if empty, no report is written
 
     int rounds() const { return int((openings + OPENINGS_IN_ROUND - 1) / OPENINGS_IN_ROUND); }
     SoakLoad load() const;

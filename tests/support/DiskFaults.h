@@ -14,7 +14,7 @@
  * USSD_DISK_FAULT=kill:STEP:FOLDER, full:STEP:FOLDER or read-only:STEP:FOLDER.
  */
 
-const int KILLED = 77; // exit code of a killed process
+const int KILLED = 77; // the exit status of a killed process
 
 namespace DiskFaults
 {
@@ -24,7 +24,7 @@ enum Kind {
     // Ends the process before the step, as if it were killed. A write counts as two steps. With a
     // fault in the second step, half of the data has been written.
     Kill,
-    Full,    // from this step on, files cannot be created or grow
+    Full,    // from this step on, files cannot be created or enlarged
     ReadOnly // from this step on, nothing can be changed
 };
 

@@ -25,7 +25,7 @@ public:
 
     QStringList lines() const;
     QStringList unexpectedWarnings() const;
-    QStringList missingWarnings() const; ///< expected, but not logged
+    QStringList missingWarnings() const; ///< the expected warnings that were not logged
 
 private:
     struct Line {

@@ -52,7 +52,7 @@ protected:
     void allowWarning(const QString &part);
     void allowWarning(const char *part) { allowWarning(QString::fromUtf8(part)); }
 
-    /// Returns all lines on all channels that were logged since the test function started or
+    /// Returns the messages of all types that were logged since the test function started or
     /// clearLog() was called.
     QStringList logLines() const;
 
@@ -62,7 +62,7 @@ protected:
     void clearLog();
 
     // ---- a folder that is created empty for each test function and deleted afterwards
-    QString folder();                                                  ///< no trailing separator
+    QString folder(); ///< the path, without a trailing separator
     QString writeFile(const QString &name, const QByteArray &content); ///< returns the file's path
 
     // ---- events
@@ -84,8 +84,9 @@ private:
 
 namespace UssdTestPrivate
 {
-/// Prepares the process before the application object is constructed: selects the offscreen
-/// platform, fixed names and a fixed language.
+/// Prepares the process before the application object is constructed. Selects the offscreen
+/// platform and the simulator unless the environment specifies others, and sets the locale and the
+/// application name.
 void prepareProcess();
 int finish(const UssdTest &test, int failures);
 } // namespace UssdTestPrivate

@@ -27,7 +27,7 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::string m_what; // the current test function, or empty
+    std::string m_what; // the current test function, or an empty string
     Clock::time_point m_until;
     bool m_ending = false;
     std::thread m_thread; // declared last, because the thread uses the other members

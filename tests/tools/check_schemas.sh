@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Tests the schemas for XML editors: they are those that the program generates, they accept every file
-# that is shipped or created, and they reject files with a mistake that "ussd-config check" reports.
+# Tests that the schemas for XML editors are those that the program generates, that they accept all
+# files that are shipped or created, and that they reject mistakes that "ussd-config check" reports.
 #   check_schemas.sh PROGRAM SOURCE_TREE
 set -u
 program=$1
@@ -18,13 +18,13 @@ accepts() {
     xmllint --noout --relaxng "$root/schemas/ussd-$1.rng" "$2" >"$work/said" 2>&1
 }
 
-# good KIND FILE: the schema must accept the file.
+# good KIND FILE: requires that the schema accepts the file.
 good() {
     accepts "$1" "$2" || complain "the schema $1 rejects $2: $(cat "$work/said")"
 }
 
-# bad KIND EXPRESSION: changes the shipped file with the Perl expression. Both the check and the schema
-# must find the mistake.
+# bad KIND EXPRESSION: changes the shipped file with the Perl expression. Requires that both
+# "ussd-config check" and the schema reject the changed file.
 bad() {
     local file=$root/plugins/USSDUIPlugin/USSDPluginConfig.xml
     [ "$1" = profiles ] && file=$root/plugins/USSDUIPlugin/ussdsysprofile.xml

@@ -461,7 +461,7 @@ void ConfigCheckTest::scenarioMistakesHaveTheirLine()
 }
 
 /// Each row contains lines that are appended to a [Network] group of three lines, and the line
-/// numbers of all findings. All mistakes must be found, but not their consequences.
+/// numbers of all expected findings. All mistakes must be reported, but not their consequences.
 void ConfigCheckTest::everyMistakeOfAScenarioIsFound_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -594,7 +594,7 @@ void ConfigCheckTest::longestCommandIsCountedWithItsInput()
 {
     QFETCH(int, length);
     QFETCH(bool, fits);
-    QByteArray content = configuration(); // *101*%s# has six characters besides the input
+    QByteArray content = configuration(); // apart from the input, *101*%s# has six characters
     content.replace("<length>16</length>", "<length>" + QByteArray::number(length) + "</length>");
     QCOMPARE(!rulesOf(check(content)).contains(QLatin1String("command")), fits);
 }
@@ -760,7 +760,7 @@ void ConfigCheckTest::everyPrefixIsChecked()
     QVERIFY(wide.tables.isEmpty());
 }
 
-/// Compares the trace with the plug-in's own search, using random documents.
+/// Tests that the trace finds the same elements as the plug-in's own search in random documents.
 void ConfigCheckTest::traceWalksAsThePluginDoes()
 {
     QRandomGenerator random(20261120);

@@ -146,7 +146,7 @@ void ConfigNewTest::emptyFolderIsUsed()
     QVERIFY(QFile::exists(target() + QLatin1String(PROFILES)));
 }
 
-/// Tests a folder that cannot be created, because its parent is a file.
+/// Tests that nothing is left behind if the folder cannot be created because its parent is a file.
 void ConfigNewTest::failureLeavesNothing()
 {
     const QStringList before = QDir(folder()).entryList();

@@ -9,7 +9,8 @@
 
 using namespace Tools;
 
-/// Tests "ussd-config fmt": the layout, what it keeps, and what it refuses.
+/// Tests "ussd-config fmt": the layout that it produces, the content that it keeps, and the files
+/// that it rejects.
 class XmlFormatTest : public ToolTest
 {
     Q_OBJECT

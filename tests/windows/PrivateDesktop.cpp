@@ -170,8 +170,8 @@ bool PrivateDesktop::switchOn(const char *property)
     return bus->call(call, QDBus::Block, LIMIT).type() == QDBusMessage::ReplyMessage;
 }
 
-/// Starts the registry by calling it for the first time. This must happen before a program looks
-/// for it.
+/// Starts the registry by calling it for the first time. This must happen before a program
+/// searches for the registry.
 bool PrivateDesktop::startRegistry()
 {
     Bus bus(m_accessibilityBus);

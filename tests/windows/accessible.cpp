@@ -4,9 +4,9 @@
 //     accessible tree                    prints what a screen reader finds
 //     accessible wait PATTERN            waits until a line of the tree matches
 //     accessible gone PATTERN            waits until no line of the tree matches
-//     accessible at PATTERN              prints the centre of the first match on the screen
-//     accessible press PATTERN           presses the first match
-//     accessible read PATTERN            waits until the content of a text field or a transcript
+//     accessible at PATTERN              prints the screen coordinates of the centre of the first
+//     match accessible press PATTERN           presses the first match accessible read PATTERN
+//     waits until the content of a text field or a transcript
 //                                        matches
 //     accessible picture FILE            saves a picture of the screen
 //

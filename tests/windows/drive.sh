@@ -226,7 +226,8 @@ until_logged()
     done
 }
 
-# The new window has the keyboard focus. The mouse pointer does not move.
+# Sends a code in a nested compositor, whose new window has the keyboard focus, and starts the
+# program in a compositor without input devices. The mouse pointer does not move.
 wayland()
 {
     say 'Wayland'
