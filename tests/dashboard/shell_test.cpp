@@ -73,6 +73,7 @@ private slots:
     void theHiddenMenuBarHasTheSameActions();
     void theNumberOfTheSimIsShownForAMoment();
     void theDemonstrationCannotBeClosed();
+    void aProblemIsShownInADemonstration();
     void oneBannerIsShownAtATime();
     void theWindowIsDimmedBehindAFrame();
     void theFormWaitsForTheFrame();
@@ -426,17 +427,30 @@ void ShellTest::theDemonstrationCannotBeClosed()
     QCOMPARE(part<Chip>("Dashboard_PaidType")->text(), QLatin1String("Demonstration"));
 }
 
+void ShellTest::aProblemIsShownInADemonstration()
+{
+    const Banners *banners = m_window->findChild<Banners *>();
+    m_window->showProblem(QLatin1String("The disk is full."));
+    QCOMPARE(banners->shown(), int(Banners::Problem));
+    QVERIFY(m_window->windowTitle().contains(QLatin1String("Demonstration")));
+    QVERIFY(part<Chip>("Dashboard_PaidType")->isVisible());
+    part<QPushButton>("Dashboard_BannerClose")->click();
+    QCOMPARE(banners->shown(), int(Banners::Demonstration));
+}
+
 void ShellTest::oneBannerIsShownAtATime()
 {
     Banners banners;
+    banners.setBanner(Banners::Demonstration,
+                      {QLatin1String("d"), QString(), QString(), QString()});
+    QCOMPARE(banners.shown(), int(Banners::Demonstration));
     banners.setBanner(Banners::Restore, {QLatin1String("r"), QString(), QString(), QString()});
     QCOMPARE(banners.shown(), int(Banners::Restore));
     banners.setBanner(Banners::Problem, {QLatin1String("p"), QString(), QString(), QString()});
     QCOMPARE(banners.shown(), int(Banners::Problem));
-    banners.setBanner(Banners::Demonstration,
-                      {QLatin1String("d"), QString(), QString(), QString()});
-    QCOMPARE(banners.shown(), int(Banners::Demonstration));
-    banners.setBanner(Banners::Demonstration, Banner());
+    banners.setBanner(Banners::Saved, {QLatin1String("s"), QString(), QString(), QString()});
+    QCOMPARE(banners.shown(), int(Banners::Saved));
+    banners.setBanner(Banners::Saved, Banner());
     QCOMPARE(banners.shown(), int(Banners::Problem));
     const QLabel *title = banners.findChild<QLabel *>(QLatin1String("Dashboard_BannerTitle"));
     QCOMPARE(title->text(), QLatin1String("p"));

@@ -39,6 +39,7 @@ protected:
 
 private:
     void placeFooter();
+    void updateScrollRange();
 
     QWidget *m_footer;
     ElidedLabel *m_note;

@@ -24,10 +24,11 @@ struct Appearance {
 
 // Indexed by Banners::Kind.
 const Appearance APPEARANCES[] = {
-    {"banner_warn", "flask", Token::Warn, "strong"},
+    {"banner_info", "check", Token::AccentText, "strong"},
     {"banner_info", "tag", Token::AccentText, "strong"},
     {"banner_warn", "warning", Token::Warn, "strong"},
     {"banner_info", "info", Token::AccentText, "strong"},
+    {"banner_warn", "flask", Token::Warn, "strong"},
 };
 
 } // namespace
@@ -53,7 +54,7 @@ Banners::Banners(QWidget *parent)
 
 int Banners::shown() const
 {
-    for (int kind = Demonstration; kind <= Restore; ++kind) {
+    for (int kind = Saved; kind <= Demonstration; ++kind) {
         if (!m_banners[kind].title.isEmpty())
             return kind;
     }
