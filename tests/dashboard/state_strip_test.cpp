@@ -89,6 +89,7 @@ protected:
 
 private slots:
     void theHeightIsTheSameInEveryState();
+    void theSecondRowStandsAboveTheMargin();
     void theSmallestWindowIsWideEnough();
     void readyOffersTheLastCodes();
     void waitingShowsTheSeconds();
@@ -173,6 +174,17 @@ void StateStripTest::theHeightIsTheSameInEveryState()
         }
     }
     QCOMPARE(heights, QSet<int>{Look::instance().px(116)});
+}
+
+void StateStripTest::theSecondRowStandsAboveTheMargin()
+{
+    for (const Kind kind : KINDS) {
+        show(stateOf(kind, 3));
+        const QWidget *row = strip().findChild<QWidget *>(QLatin1String("Dashboard_StripRow"));
+        const int below = strip().contentsRect().bottom() - row->geometry().bottom();
+        QCOMPARE(below, Look::instance().px(14));
+        QCOMPARE(row->height(), Look::instance().px(36));
+    }
 }
 
 // The smallest window is 360 pixels wide. The margins need 16 pixels and the card's border 2

@@ -151,7 +151,8 @@ void StateStrip::makeRows()
     setSpacing(m_rowLayout, SPACING);
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setSpacing(0);
-    column->addLayout(top, 1);
+    column->addLayout(top);
+    column->addStretch(1); // the first row has a maximum height, so it would be centred
     column->addWidget(m_row);
     setForm(m_form);
 }
