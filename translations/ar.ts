@@ -1285,10 +1285,6 @@
         <translation>في انتظار الرد على %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>أرسل رمزًا.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>أرسل رمزًا أو اختر واحدًا أدناه.</translation>
     </message>

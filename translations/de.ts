@@ -1286,10 +1286,6 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Warten auf die Antwort auf %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Senden Sie einen Code.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Senden Sie einen Code, oder wählen Sie unten einen.</translation>
     </message>

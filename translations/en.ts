@@ -1285,10 +1285,6 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>Waiting for the reply to %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Send a code.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Send a code, or choose one below.</translation>
     </message>

@@ -1285,10 +1285,6 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>Esperando la respuesta a %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Envíe un código.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Envíe un código o elija uno abajo.</translation>
     </message>

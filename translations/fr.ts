@@ -1286,10 +1286,6 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>En attente de la réponse à %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Envoyez un code.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Envoyez un code ou choisissez-en un ci-dessous.</translation>
     </message>

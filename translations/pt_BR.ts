@@ -1286,10 +1286,6 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
         <translation>Aguardando a resposta a %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Envie um código.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Envie um código ou escolha um abaixo.</translation>
     </message>

@@ -1284,10 +1284,6 @@
         <translation>Ожидание ответа на %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Отправьте код.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Отправьте код или выберите ниже.</translation>
     </message>

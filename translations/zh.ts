@@ -1282,10 +1282,6 @@
         <translation>正在等待 %1 的回复</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>发送代码。</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>发送代码，或在下方选择一个。</translation>
     </message>

@@ -89,6 +89,7 @@ protected:
 
 private slots:
     void theHeightIsTheSameInEveryState();
+    void theNarrowStripIsReadyInOneWord();
     void theSecondRowStandsAboveTheMargin();
     void theSmallestWindowIsWideEnough();
     void readyOffersTheLastCodes();
@@ -174,6 +175,19 @@ void StateStripTest::theHeightIsTheSameInEveryState()
         }
     }
     QCOMPARE(heights, QSet<int>{Look::instance().px(116)});
+}
+
+void StateStripTest::theNarrowStripIsReadyInOneWord()
+{
+    const QWidget *text = strip().findChild<QWidget *>(QLatin1String("Dashboard_StripText"));
+    strip().setForm(Form::Narrow);
+    show(stateOf(Kind::Ready, 0));
+    QVERIFY(text->isHidden() && !strip().title().isEmpty());
+    show(stateOf(Kind::MenuOpen, 3));
+    QVERIFY(!text->isHidden());
+    strip().setForm(Form::Wide);
+    show(stateOf(Kind::Ready, 0));
+    QVERIFY(!text->isHidden());
 }
 
 void StateStripTest::theSecondRowStandsAboveTheMargin()
