@@ -869,6 +869,14 @@
         <translation>عرض تجريبي: %1</translation>
     </message>
     <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>إشارة ضعيفة</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>آجل الدفع</translation>
+    </message>
+    <message>
         <source>OPERATOR_NO_MODEM</source>
         <translation>لا يوجد مودم</translation>
     </message>

@@ -870,6 +870,14 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Vorführung: %1</translation>
     </message>
     <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>schwaches Signal</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>Vertrag</translation>
+    </message>
+    <message>
         <source>OPERATOR_NO_MODEM</source>
         <translation>Kein Modem</translation>
     </message>

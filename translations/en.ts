@@ -869,6 +869,14 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>Demonstration: %1</translation>
     </message>
     <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>weak signal</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>postpaid</translation>
+    </message>
+    <message>
         <source>OPERATOR_NO_MODEM</source>
         <translation>No modem</translation>
     </message>

@@ -869,6 +869,14 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>Demostración: %1</translation>
     </message>
     <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>señal débil</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>contrato</translation>
+    </message>
+    <message>
         <source>OPERATOR_NO_MODEM</source>
         <translation>Sin módem</translation>
     </message>

@@ -870,6 +870,14 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Démonstration : %1</translation>
     </message>
     <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>signal faible</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>forfait</translation>
+    </message>
+    <message>
         <source>OPERATOR_NO_MODEM</source>
         <translation>Pas de modem</translation>
     </message>

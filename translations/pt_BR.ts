@@ -870,6 +870,14 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
         <translation>Demonstração: %1</translation>
     </message>
     <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>sinal fraco</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>pós-pago</translation>
+    </message>
+    <message>
         <source>OPERATOR_NO_MODEM</source>
         <translation>Sem modem</translation>
     </message>

@@ -868,6 +868,14 @@
         <translation>Демонстрация: %1</translation>
     </message>
     <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>слабый сигнал</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>постоплата</translation>
+    </message>
+    <message>
         <source>OPERATOR_NO_MODEM</source>
         <translation>Нет модема</translation>
     </message>

@@ -866,6 +866,14 @@
         <translation>演示：%1</translation>
     </message>
     <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>信号弱</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>后付费</translation>
+    </message>
+    <message>
         <source>OPERATOR_NO_MODEM</source>
         <translation>无调制解调器</translation>
     </message>

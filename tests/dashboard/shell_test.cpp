@@ -422,6 +422,7 @@ void ShellTest::theDemonstrationCannotBeClosed()
     QVERIFY(banners->isVisible());
     QCOMPARE(banners->shown(), int(Banners::Demonstration));
     QVERIFY(!part<QPushButton>("Dashboard_BannerClose")->isVisible());
+    QVERIFY(!part<QPushButton>("Dashboard_BannerAction")->icon().isNull());
     QVERIFY(m_window->windowTitle().contains(QLatin1String("Demonstration")));
     QVERIFY(part<Chip>("Dashboard_PaidType")->isVisible());
     QCOMPARE(part<Chip>("Dashboard_PaidType")->text(), QLatin1String("Demonstration"));
