@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -76,6 +77,7 @@ private slots:
     void aProblemIsShownInADemonstration();
     void oneBannerIsShownAtATime();
     void theWindowIsDimmedBehindAFrame();
+    void theWindowIsDimmedUntilTheLastDialogIsClosed();
     void theFormWaitsForTheFrame();
     void theMessageTellsTheStrengthInWords();
 
@@ -455,6 +457,24 @@ void ShellTest::oneBannerIsShownAtATime()
     QCOMPARE(banners.shown(), int(Banners::Problem));
     const QLabel *title = banners.findChild<QLabel *>(QLatin1String("Dashboard_BannerTitle"));
     QCOMPARE(title->text(), QLatin1String("p"));
+}
+
+void ShellTest::theWindowIsDimmedUntilTheLastDialogIsClosed()
+{
+    const Scrim *scrim = m_window->findChild<Scrim *>();
+    QMessageBox first(m_window.data());
+    QMessageBox second(&first);
+    first.open();
+    QVERIFY(scrim->isVisible());
+    second.open();
+    second.close();
+    QVERIFY(scrim->isVisible());
+    first.close();
+    QTRY_VERIFY(!scrim->isVisible());
+    QMessageBox beside(m_window.data());
+    beside.setModal(false);
+    beside.show();
+    QVERIFY(!scrim->isVisible());
 }
 
 void ShellTest::theWindowIsDimmedBehindAFrame()

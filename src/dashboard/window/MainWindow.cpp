@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QStackedWidget>
 #include <QWindow>
 
@@ -47,6 +48,22 @@ namespace
 bool isFrame(const QObject *object)
 {
     return qobject_cast<const ExtendDialog *>(object);
+}
+
+/// Returns true if the window must be closed before the main window can be used.
+bool isModalDialog(const QObject *object)
+{
+    const QDialog *dialog = qobject_cast<const QDialog *>(object);
+    return dialog && (isFrame(dialog) || dialog->isModal());
+}
+
+bool hasOtherDialog(const QObject *dialog)
+{
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (window != dialog && window->isVisible() && isModalDialog(window))
+            return true;
+    }
+    return false;
 }
 
 /// Returns true if the operator is known in a situation of this kind.
@@ -455,22 +472,28 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QMainWindow::closeEvent(event);
 }
 
-// Dims the main window while a window of the plug-in is open. The state of the frame is checked
-// later, because it has not changed yet when the event is sent.
+void MainWindow::onFrame(QWidget *frame, bool isShown)
+{
+    if (!isShown) {
+        QMetaObject::invokeMethod(
+            this, [this] { updateForm(); }, Qt::QueuedConnection);
+        return;
+    }
+    EditorHints::addTo(frame);
+    // Otherwise, a click could raise this window above the modal one, and nothing would react.
+    frame->windowHandle()->setTransientParent(windowHandle());
+}
+
+// Dims the main window while a dialog or a window of the plug-in is open. The state of the frame is
+// checked later, because it has not changed yet when the event is sent.
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isShown = event->type() == QEvent::Show;
-    if ((isShown || event->type() == QEvent::Hide) && isFrame(watched)) {
-        m_scrim->setShown(isShown);
-        if (isShown)
-            EditorHints::addTo(static_cast<QWidget *>(watched));
-        // Otherwise, a click could raise this window above the modal one, and nothing would react.
-        if (isShown)
-            static_cast<QWidget *>(watched)->windowHandle()->setTransientParent(windowHandle());
-        else
-            QMetaObject::invokeMethod(
-                this, [this] { updateForm(); }, Qt::QueuedConnection);
-    }
+    const bool isChange = isShown || event->type() == QEvent::Hide;
+    if (isChange && isModalDialog(watched))
+        m_scrim->setShown(isShown || hasOtherDialog(watched));
+    if (isChange && isFrame(watched))
+        onFrame(static_cast<QWidget *>(watched), isShown);
     return QMainWindow::eventFilter(watched, event);
 }
 

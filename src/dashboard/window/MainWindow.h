@@ -125,6 +125,7 @@ private:
     void updateForm();
     void applyForm();
     void placeParts();
+    void onFrame(QWidget *frame, bool isShown);
 
     bool useDevice(const QString &error);
     QString choiceText() const;
