@@ -814,7 +814,39 @@
     </message>
     <message>
         <source>CODES_NO_SIM</source>
-        <translation>لا توجد بطاقة SIM معروفة الشبكة.</translation>
+        <translation>شبكة بطاقة SIM غير معروفة بعد. حالما يصبح مودم به بطاقة SIM جاهزًا، يمكنك اختيار مشغّلك هنا.</translation>
+    </message>
+    <message>
+        <source>CODES_DEMONSTRATION</source>
+        <translation>للعرض التوضيحي رموزه الخاصة. لاختيار مشغّلك، استخدم مودمك.</translation>
+    </message>
+    <message>
+        <source>HISTORY_OWN</source>
+        <translation>رمزك</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_SHOW</source>
+        <translation>عرض في السجل</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_TEXT</source>
+        <translation>لا يوجد زر شاغر لـ %1: انظر السجل أو المفضلة في الرئيسية.</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED</source>
+        <translation>حُفظت رموزك</translation>
+    </message>
+    <message>
+        <source>EDITOR_HINT</source>
+        <translation>اكتب في صف فارغ لإضافة رمز.</translation>
+    </message>
+    <message>
+        <source>EDITOR_CODE_HINT</source>
+        <translation>اكتب رمزًا</translation>
+    </message>
+    <message>
+        <source>EDITOR_NAME_HINT</source>
+        <translation>اكتب اسمًا</translation>
     </message>
     <message>
         <source>CODES_NO_LIST</source>
@@ -835,6 +867,14 @@
     <message>
         <source>NETWORK_DEMONSTRATION</source>
         <translation>عرض تجريبي: %1</translation>
+    </message>
+    <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>إشارة ضعيفة</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>آجل الدفع</translation>
     </message>
     <message>
         <source>OPERATOR_NO_MODEM</source>
@@ -1253,10 +1293,6 @@
         <translation>في انتظار الرد على %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>أرسل رمزًا.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>أرسل رمزًا أو اختر واحدًا أدناه.</translation>
     </message>
@@ -1314,7 +1350,7 @@
     </message>
     <message>
         <source>DEVICE_TURN_TEXT</source>
-        <translation>نافذة أخرى ترسل طلبًا الآن.</translation>
+        <translation>برنامج آخر يستخدم المودم. سيُرسل رمزك عندما ينتهي.</translation>
     </message>
     <message>
         <source>DEVICE_FOREIGN</source>

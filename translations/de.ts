@@ -815,7 +815,39 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>CODES_NO_SIM</source>
-        <translation>Es ist keine SIM-Karte da, deren Netz bekannt ist.</translation>
+        <translation>Das Netz der SIM ist noch nicht bekannt. Sobald ein Modem mit einer SIM bereit ist, können Sie hier Ihren Betreiber wählen.</translation>
+    </message>
+    <message>
+        <source>CODES_DEMONSTRATION</source>
+        <translation>Die Vorführung hat ihre eigenen Codes. Um Ihren Betreiber zu wählen, verwenden Sie Ihr Modem.</translation>
+    </message>
+    <message>
+        <source>HISTORY_OWN</source>
+        <translation>Ihr Code</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_SHOW</source>
+        <translation>Im Verlauf zeigen</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_TEXT</source>
+        <translation>Kein Knopf frei für %1: siehe Verlauf oder Favoriten auf „Start“.</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED</source>
+        <translation>Ihre Codes sind gespeichert</translation>
+    </message>
+    <message>
+        <source>EDITOR_HINT</source>
+        <translation>In einer leeren Zeile lässt sich ein Code hinzufügen.</translation>
+    </message>
+    <message>
+        <source>EDITOR_CODE_HINT</source>
+        <translation>Code eingeben</translation>
+    </message>
+    <message>
+        <source>EDITOR_NAME_HINT</source>
+        <translation>Name eingeben</translation>
     </message>
     <message>
         <source>CODES_NO_LIST</source>
@@ -836,6 +868,14 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>NETWORK_DEMONSTRATION</source>
         <translation>Vorführung: %1</translation>
+    </message>
+    <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>schwaches Signal</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>Vertrag</translation>
     </message>
     <message>
         <source>OPERATOR_NO_MODEM</source>
@@ -1254,10 +1294,6 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Warten auf die Antwort auf %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Senden Sie einen Code.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Senden Sie einen Code, oder wählen Sie unten einen.</translation>
     </message>
@@ -1315,7 +1351,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>DEVICE_TURN_TEXT</source>
-        <translation>Ein anderes Fenster fragt gerade.</translation>
+        <translation>Ein anderes Programm benutzt das Modem. Ihr Code wird gesendet, sobald es fertig ist.</translation>
     </message>
     <message>
         <source>DEVICE_FOREIGN</source>

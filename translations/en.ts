@@ -814,7 +814,39 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     </message>
     <message>
         <source>CODES_NO_SIM</source>
-        <translation>There is no SIM card whose network is known.</translation>
+        <translation>The network of the SIM is not known yet. As soon as a modem with a SIM is ready, you can choose your operator here.</translation>
+    </message>
+    <message>
+        <source>CODES_DEMONSTRATION</source>
+        <translation>The demonstration has codes of its own. To choose your operator, use your modem.</translation>
+    </message>
+    <message>
+        <source>HISTORY_OWN</source>
+        <translation>Your code</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_SHOW</source>
+        <translation>Show in the history</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_TEXT</source>
+        <translation>No free button for %1: see the history, or Favourites on Home.</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED</source>
+        <translation>Your codes are saved</translation>
+    </message>
+    <message>
+        <source>EDITOR_HINT</source>
+        <translation>Type into an empty row to add a code.</translation>
+    </message>
+    <message>
+        <source>EDITOR_CODE_HINT</source>
+        <translation>Type a code</translation>
+    </message>
+    <message>
+        <source>EDITOR_NAME_HINT</source>
+        <translation>Type a name</translation>
     </message>
     <message>
         <source>CODES_NO_LIST</source>
@@ -835,6 +867,14 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>NETWORK_DEMONSTRATION</source>
         <translation>Demonstration: %1</translation>
+    </message>
+    <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>weak signal</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>postpaid</translation>
     </message>
     <message>
         <source>OPERATOR_NO_MODEM</source>
@@ -1253,10 +1293,6 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>Waiting for the reply to %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Send a code.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Send a code, or choose one below.</translation>
     </message>
@@ -1314,7 +1350,7 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     </message>
     <message>
         <source>DEVICE_TURN_TEXT</source>
-        <translation>Another window is asking.</translation>
+        <translation>Another program is using the modem. Your code is sent when it has finished.</translation>
     </message>
     <message>
         <source>DEVICE_FOREIGN</source>

@@ -814,7 +814,39 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     </message>
     <message>
         <source>CODES_NO_SIM</source>
-        <translation>No hay ninguna tarjeta SIM cuya red se conozca.</translation>
+        <translation>Aún no se conoce la red de la SIM. En cuanto un módem con una SIM esté listo, podrá elegir aquí su operador.</translation>
+    </message>
+    <message>
+        <source>CODES_DEMONSTRATION</source>
+        <translation>La demostración tiene sus propios códigos. Para elegir su operador, use su módem.</translation>
+    </message>
+    <message>
+        <source>HISTORY_OWN</source>
+        <translation>Su código</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_SHOW</source>
+        <translation>Ver en el historial</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_TEXT</source>
+        <translation>Sin botón libre para %1: vea el historial o los favoritos en Inicio.</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED</source>
+        <translation>Sus códigos se han guardado</translation>
+    </message>
+    <message>
+        <source>EDITOR_HINT</source>
+        <translation>Escriba en una fila vacía para añadir un código.</translation>
+    </message>
+    <message>
+        <source>EDITOR_CODE_HINT</source>
+        <translation>Escriba un código</translation>
+    </message>
+    <message>
+        <source>EDITOR_NAME_HINT</source>
+        <translation>Escriba un nombre</translation>
     </message>
     <message>
         <source>CODES_NO_LIST</source>
@@ -835,6 +867,14 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     <message>
         <source>NETWORK_DEMONSTRATION</source>
         <translation>Demostración: %1</translation>
+    </message>
+    <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>señal débil</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>contrato</translation>
     </message>
     <message>
         <source>OPERATOR_NO_MODEM</source>
@@ -1253,10 +1293,6 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>Esperando la respuesta a %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Envíe un código.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Envíe un código o elija uno abajo.</translation>
     </message>
@@ -1314,7 +1350,7 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     </message>
     <message>
         <source>DEVICE_TURN_TEXT</source>
-        <translation>Otra ventana está preguntando.</translation>
+        <translation>Otro programa está usando el módem. Su código se enviará cuando termine.</translation>
     </message>
     <message>
         <source>DEVICE_FOREIGN</source>

@@ -815,7 +815,39 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>CODES_NO_SIM</source>
-        <translation>Il n’y a pas de carte SIM dont le réseau soit connu.</translation>
+        <translation>Le réseau de la SIM n’est pas encore connu. Dès qu’un modem avec une SIM est prêt, vous pouvez choisir ici votre opérateur.</translation>
+    </message>
+    <message>
+        <source>CODES_DEMONSTRATION</source>
+        <translation>La démonstration a ses propres codes. Pour choisir votre opérateur, utilisez votre modem.</translation>
+    </message>
+    <message>
+        <source>HISTORY_OWN</source>
+        <translation>Votre code</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_SHOW</source>
+        <translation>Voir dans l’historique</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_TEXT</source>
+        <translation>Aucun bouton libre pour %1 : voir l’historique ou les favoris de l’accueil.</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED</source>
+        <translation>Vos codes sont enregistrés</translation>
+    </message>
+    <message>
+        <source>EDITOR_HINT</source>
+        <translation>Saisissez dans une ligne vide pour ajouter un code.</translation>
+    </message>
+    <message>
+        <source>EDITOR_CODE_HINT</source>
+        <translation>Saisissez un code</translation>
+    </message>
+    <message>
+        <source>EDITOR_NAME_HINT</source>
+        <translation>Saisissez un nom</translation>
     </message>
     <message>
         <source>CODES_NO_LIST</source>
@@ -836,6 +868,14 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>NETWORK_DEMONSTRATION</source>
         <translation>Démonstration : %1</translation>
+    </message>
+    <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>signal faible</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>forfait</translation>
     </message>
     <message>
         <source>OPERATOR_NO_MODEM</source>
@@ -1254,10 +1294,6 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>En attente de la réponse à %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Envoyez un code.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Envoyez un code ou choisissez-en un ci-dessous.</translation>
     </message>
@@ -1315,7 +1351,7 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>DEVICE_TURN_TEXT</source>
-        <translation>Une autre fenêtre interroge le réseau.</translation>
+        <translation>Un autre programme utilise le modem. Votre code sera envoyé quand il aura terminé.</translation>
     </message>
     <message>
         <source>DEVICE_FOREIGN</source>

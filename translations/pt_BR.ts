@@ -815,7 +815,39 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     </message>
     <message>
         <source>CODES_NO_SIM</source>
-        <translation>Não há cartão SIM cuja rede seja conhecida.</translation>
+        <translation>A rede do SIM ainda não é conhecida. Assim que um modem com SIM estiver pronto, você poderá escolher aqui a sua operadora.</translation>
+    </message>
+    <message>
+        <source>CODES_DEMONSTRATION</source>
+        <translation>A demonstração tem códigos próprios. Para escolher a sua operadora, use o seu modem.</translation>
+    </message>
+    <message>
+        <source>HISTORY_OWN</source>
+        <translation>O seu código</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_SHOW</source>
+        <translation>Ver no histórico</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_TEXT</source>
+        <translation>Sem botão livre para %1: veja o histórico ou os favoritos no Início.</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED</source>
+        <translation>Os seus códigos foram salvos</translation>
+    </message>
+    <message>
+        <source>EDITOR_HINT</source>
+        <translation>Digite em uma linha vazia para adicionar um código.</translation>
+    </message>
+    <message>
+        <source>EDITOR_CODE_HINT</source>
+        <translation>Digite um código</translation>
+    </message>
+    <message>
+        <source>EDITOR_NAME_HINT</source>
+        <translation>Digite um nome</translation>
     </message>
     <message>
         <source>CODES_NO_LIST</source>
@@ -836,6 +868,14 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     <message>
         <source>NETWORK_DEMONSTRATION</source>
         <translation>Demonstração: %1</translation>
+    </message>
+    <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>sinal fraco</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>pós-pago</translation>
     </message>
     <message>
         <source>OPERATOR_NO_MODEM</source>
@@ -1254,10 +1294,6 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
         <translation>Aguardando a resposta a %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Envie um código.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Envie um código ou escolha um abaixo.</translation>
     </message>
@@ -1315,7 +1351,7 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     </message>
     <message>
         <source>DEVICE_TURN_TEXT</source>
-        <translation>Outra janela está perguntando.</translation>
+        <translation>Outro programa está usando o modem. O seu código será enviado quando ele terminar.</translation>
     </message>
     <message>
         <source>DEVICE_FOREIGN</source>

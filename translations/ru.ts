@@ -813,7 +813,39 @@
     </message>
     <message>
         <source>CODES_NO_SIM</source>
-        <translation>Нет SIM-карты, сеть которой известна.</translation>
+        <translation>Сеть SIM пока не известна. Как только модем с SIM будет готов, вы сможете выбрать здесь своего оператора.</translation>
+    </message>
+    <message>
+        <source>CODES_DEMONSTRATION</source>
+        <translation>У демонстрации свои коды. Чтобы выбрать оператора, используйте свой модем.</translation>
+    </message>
+    <message>
+        <source>HISTORY_OWN</source>
+        <translation>Ваш код</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_SHOW</source>
+        <translation>Показать в истории</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_TEXT</source>
+        <translation>Нет свободной кнопки для %1: смотрите историю или избранное на главной.</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED</source>
+        <translation>Ваши коды сохранены</translation>
+    </message>
+    <message>
+        <source>EDITOR_HINT</source>
+        <translation>Введите текст в пустую строку, чтобы добавить код.</translation>
+    </message>
+    <message>
+        <source>EDITOR_CODE_HINT</source>
+        <translation>Введите код</translation>
+    </message>
+    <message>
+        <source>EDITOR_NAME_HINT</source>
+        <translation>Введите название</translation>
     </message>
     <message>
         <source>CODES_NO_LIST</source>
@@ -834,6 +866,14 @@
     <message>
         <source>NETWORK_DEMONSTRATION</source>
         <translation>Демонстрация: %1</translation>
+    </message>
+    <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>слабый сигнал</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>постоплата</translation>
     </message>
     <message>
         <source>OPERATOR_NO_MODEM</source>
@@ -1252,10 +1292,6 @@
         <translation>Ожидание ответа на %1</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>Отправьте код.</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>Отправьте код или выберите ниже.</translation>
     </message>
@@ -1313,7 +1349,7 @@
     </message>
     <message>
         <source>DEVICE_TURN_TEXT</source>
-        <translation>Другое окно ждёт ответа.</translation>
+        <translation>Модем занят другой программой. Ваш код будет отправлен, когда она закончит.</translation>
     </message>
     <message>
         <source>DEVICE_FOREIGN</source>

@@ -811,7 +811,39 @@
     </message>
     <message>
         <source>CODES_NO_SIM</source>
-        <translation>没有网络已知的 SIM 卡。</translation>
+        <translation>SIM 的网络尚不清楚。装有 SIM 的调制解调器就绪后，即可在此选择您的运营商。</translation>
+    </message>
+    <message>
+        <source>CODES_DEMONSTRATION</source>
+        <translation>演示有自己的代码。若要选择您的运营商，请使用您的调制解调器。</translation>
+    </message>
+    <message>
+        <source>HISTORY_OWN</source>
+        <translation>您的代码</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_SHOW</source>
+        <translation>在历史记录中显示</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED_TEXT</source>
+        <translation>没有空闲按钮可用于 %1：请见历史记录或首页的收藏。</translation>
+    </message>
+    <message>
+        <source>BANNER_SAVED</source>
+        <translation>您的代码已保存</translation>
+    </message>
+    <message>
+        <source>EDITOR_HINT</source>
+        <translation>在空行中输入即可添加代码。</translation>
+    </message>
+    <message>
+        <source>EDITOR_CODE_HINT</source>
+        <translation>输入代码</translation>
+    </message>
+    <message>
+        <source>EDITOR_NAME_HINT</source>
+        <translation>输入名称</translation>
     </message>
     <message>
         <source>CODES_NO_LIST</source>
@@ -832,6 +864,14 @@
     <message>
         <source>NETWORK_DEMONSTRATION</source>
         <translation>演示：%1</translation>
+    </message>
+    <message>
+        <source>NETWORK_WEAK_SIGNAL</source>
+        <translation>信号弱</translation>
+    </message>
+    <message>
+        <source>NETWORK_POSTPAID</source>
+        <translation>后付费</translation>
     </message>
     <message>
         <source>OPERATOR_NO_MODEM</source>
@@ -1250,10 +1290,6 @@
         <translation>正在等待 %1 的回复</translation>
     </message>
     <message>
-        <source>STRIP_READY_NARROW</source>
-        <translation>发送代码。</translation>
-    </message>
-    <message>
         <source>STRIP_READY_TEXT</source>
         <translation>发送代码，或在下方选择一个。</translation>
     </message>
@@ -1311,7 +1347,7 @@
     </message>
     <message>
         <source>DEVICE_TURN_TEXT</source>
-        <translation>另一个窗口正在查询。</translation>
+        <translation>另一个程序正在使用调制解调器。待其完成后，将发送您的代码。</translation>
     </message>
     <message>
         <source>DEVICE_FOREIGN</source>

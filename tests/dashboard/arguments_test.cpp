@@ -30,6 +30,7 @@ private slots:
     void aModemAndALogAreNamed();
     void switchesOfSendAreTaken();
     void valuesMayStandBehindAnEqualsSign();
+    void exportTakesAFile();
     void helpAndVersionWin();
     void mistakesAreNamed_data();
     void mistakesAreNamed();
@@ -98,6 +99,17 @@ void ArgumentsTest::valuesMayStandBehindAnEqualsSign()
     QCOMPARE(arguments.language, QLatin1String("ar"));
 }
 
+void ArgumentsTest::exportTakesAFile()
+{
+    for (const char *line : {"--export /tmp/a.csv", "--export=/tmp/a.csv"}) {
+        const Arguments arguments = parse(line);
+        QVERIFY(!arguments.errorKey);
+        QCOMPARE(arguments.mode, Arguments::Export);
+        QCOMPARE(arguments.exportFile, QLatin1String("/tmp/a.csv"));
+    }
+    QVERIFY(parse("--verbose").exportFile.isEmpty());
+}
+
 void ArgumentsTest::helpAndVersionWin()
 {
     QCOMPARE(parse("--help").mode, Arguments::Help);
@@ -116,6 +128,12 @@ void ArgumentsTest::mistakesAreNamed_data()
         QTest::newRow(line) << QByteArray(line) << QByteArray(key) << QString::fromUtf8(subject);
     };
     row("--bogus", "CLI_UNKNOWN_OPTION", "--bogus");
+    row("--export", "CLI_MISSING_VALUE", "--export");
+    row("--export=", "CLI_MISSING_VALUE", "--export");
+    row("--export --verbose", "CLI_MISSING_VALUE", "--export");
+    row("--export a.csv b.csv", "CLI_UNEXPECTED", "b.csv");
+    row("--export a.csv --send *1#", "CLI_CONFLICT", "");
+    row("--tour a --export a.csv", "CLI_CONFLICT", "");
     row("--bogus value", "CLI_UNKNOWN_OPTION", "--bogus");
     row("--help=yes", "CLI_UNKNOWN_OPTION", "--help=yes");
     row("-x", "CLI_UNKNOWN_OPTION", "-x");

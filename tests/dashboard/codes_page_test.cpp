@@ -44,6 +44,8 @@ private slots:
     void theTopUpSheetFillsInTheNumber();
     void theHistoryOpensInTheEmptyField();
     void theFooterOfTheHistoryStays();
+    void theLastCodeOfTheHistoryCanBeSeen();
+    void anOwnCodeIsNamedAsSuch();
     void theHistoryIsDeletedWithTheKeyboard();
     void anEmptyHistoryOpens();
     void aChainIsInTheHistory();
@@ -324,6 +326,33 @@ void CodesPageTest::theFooterOfTheHistoryStays()
     QVERIFY(rows >= 8); // the footer does not reduce the number of visible rows
     list()->button()->click();
     QVERIFY(m_history->codes().isEmpty() && !list()->isVisible());
+}
+
+/// Opens a list that is longer than its window, with its last code selected.
+void CodesPageTest::theLastCodeOfTheHistoryCanBeSeen()
+{
+    for (int i = 0; i < 30; ++i)
+        m_history->add(QString::fromLatin1("*1%1#").arg(i));
+    codes().openHistoryAt(m_names.last().code);
+    settle();
+    list()->resize(list()->width(), list()->height() - 1); // updates the range of the scroll bar
+    const QModelIndex last = list()->currentIndex();
+    QCOMPARE(last.row(), list()->model()->rowCount() - 1);
+    QVERIFY(list()->viewport()->rect().contains(list()->visualRect(last)));
+    codes().openHistoryAt(QLatin1String("*404#")); // not listed
+    QCOMPARE(list()->currentIndex().row(), 0);
+}
+
+void CodesPageTest::anOwnCodeIsNamedAsSuch()
+{
+    m_names.last().isOwn = true;
+    codes().openHistory();
+    const QAbstractItemModel *model = list()->model();
+    QCOMPARE(model->index(0, 2).data().toString(), QString());
+    QCOMPARE(model->index(1, 2).data().toString(), QLatin1String("Your code"));
+    m_history->add(m_names.last().code);
+    codes().openHistory();
+    QVERIFY(model->index(0, 2).data().toString().startsWith(QLatin1String("today")));
 }
 
 void CodesPageTest::theHistoryIsDeletedWithTheKeyboard()

@@ -177,6 +177,22 @@ private slots:
         QVERIFY(centreOfContent(button.grab().toImage()) < 200); // the badge is on the left
     }
 
+    // Qt mirrors the alignment in the style sheet.
+    void presetNamesStandAtTheStart()
+    {
+        QPushButton button(latin1("Data"));
+        button.setObjectName(latin1("USSDUIPlugin_AdvancedDialog_PreButton"));
+        button.resize(150, 34);
+        button.show();
+        const auto centre = [&button] {
+            const QRect inside = button.rect().adjusted(8, 8, -8, -8); // without the border
+            return centreOfContent(button.grab().toImage().copy(inside));
+        };
+        QVERIFY(centre() < 50);
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(centre() > 84);
+    }
+
     void labelledButtonHasRoomForItsText()
     {
         LabelledButton button("");

@@ -18,6 +18,7 @@ private slots:
     void anOpenMenuStaysAsItIs();
     void aModemThatComesIsOffered();
     void aNameIsNoMnemonic();
+    void demonstrationsAreNamedInTheUsersLanguage();
     void everyProblemIsSaidInEveryLanguage_data();
     void everyProblemIsSaidInEveryLanguage();
     void everyStateOfAModemSaysWhatToDo_data();
@@ -100,6 +101,18 @@ void DeviceChoiceTest::aNameIsNoMnemonic()
 {
     tellModems({modem("1", "Maker & Son")});
     QVERIFY(networkAction(QLatin1String("Maker && Son")));
+}
+
+void DeviceChoiceTest::demonstrationsAreNamedInTheUsersLanguage()
+{
+    QVERIFY(networkAction(QLatin1String("Demonstration: weak signal")));
+    QVERIFY(networkAction(QLatin1String("Demonstration: postpaid")));
+    window().setLanguage(QLatin1String("fr"));
+    const QString pattern = dashboardText("NETWORK_DEMONSTRATION");
+    QVERIFY(networkAction(pattern.arg(QLatin1String("signal faible"))));
+    const QString own = QLatin1String("/elsewhere/weak-signal.scenario");
+    window().setDevice(DeviceChoice::simulated(own));
+    QVERIFY(networkAction(pattern.arg(QLatin1String("weak-signal"))));
 }
 
 void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage_data()

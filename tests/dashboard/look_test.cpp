@@ -1,5 +1,6 @@
 #include <QDialog>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
@@ -434,6 +435,19 @@ private slots:
         const QList<QSize> sizes{{16, 16}, {32, 32}, {48, 48}, {128, 128}};
         QCOMPARE(applicationIcon().availableSizes(), sizes);
         QVERIFY(!applicationIcon().pixmap(32).isNull());
+    }
+
+    void linksFollowTheTheme()
+    {
+        Look &look = Look::instance();
+        look.start();
+        look.setTheme(ThemeChoice::Light);
+        QLabel link(latin1("<a href=\"https://example.com\">Top up online</a>"));
+        link.show();
+        for (const ThemeChoice theme : {ThemeChoice::Dark, ThemeChoice::Light}) {
+            look.setTheme(theme);
+            QVERIFY(isPaintedIn(look.color(Token::AccentText), link.grab().toImage()));
+        }
     }
 
     void messageBoxHasOurIcon()

@@ -9,6 +9,7 @@
 #include "CommandTest.h"
 #include "Languages.h"
 #include "look/Controls.h"
+#include "look/Look.h"
 #include "messages/MessageModel.h"
 #include "messages/MessageStore.h"
 #include "pages/MessageReader.h"
@@ -49,6 +50,7 @@ private slots:
     void anOldMessageHasNoAnswer();
     void theNarrowFormShowsOneAtATime();
     void aNotificationOpensItsMessage();
+    void theTextShowsThatItHasTheFocus();
 
 private:
     Message add(const char *text, int secondsAgo = 0, bool waits = false);
@@ -368,6 +370,24 @@ void MessagesPageTest::aNotificationOpensItsMessage()
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
     m_page->open(12345); // the identifier of a message that no longer exists
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
+}
+
+// The Tab key stops at the text, so that a long message can be scrolled with the keyboard.
+void MessagesPageTest::theTextShowsThatItHasTheFocus()
+{
+    Look::instance().start();
+    m_page->open(add("wanted").id);
+    QWidget *text = part<QWidget>("Dashboard_MessageScroll");
+    QVERIFY(text->focusPolicy() & Qt::TabFocus);
+    QVERIFY(!(part<QLabel>("Dashboard_MessageText")->focusPolicy() & Qt::TabFocus));
+    const QPoint border(1, text->height() / 2);
+    const QColor ring = Look::instance().color(Token::Focus);
+    button("Dashboard_MessageCopy")->setFocus();
+    QVERIFY(text->grab().toImage().pixelColor(border) != ring);
+    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
+    text->setFocus();
+    QVERIFY(text->hasFocus());
+    QCOMPARE(text->grab().toImage().pixelColor(border), ring);
 }
 
 USSD_TEST_MAIN(MessagesPageTest)

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "device/DashboardSettings.h"
+#include "device/Situation.h"
 #include "PluginFolderChoice.h"
 #include "SampleOperators.h"
 #include "sim/OperatorCodes.h"
@@ -38,6 +39,7 @@ private slots:
     void whoIsAskedChoosesOne();
     void anOperatorWithoutCodesIsNotProposed();
     void aSimWithoutANetworkIsLeftAlone();
+    void aDemonstrationLeadsToTheModem();
     void noIsRememberedForTheNetwork();
     void whatWasTakenIsInUseTheNextTime();
     void eachNetworkHasItsOwnCodes();
@@ -186,6 +188,24 @@ void OperatorCodesTest::aSimWithoutANetworkIsLeftAlone()
     useNetwork("999010123456789");
     drainEvents();
     QCOMPARE(notice(), QString());
+}
+
+void OperatorCodesTest::aDemonstrationLeadsToTheModem()
+{
+    useNetwork("999010123456789");
+    disconnect(chooser(), &OperatorChooser::remedyRequested, nullptr, nullptr);
+    Remedy wanted = Remedy::None;
+    connect(chooser(), &OperatorChooser::remedyRequested, this,
+            [&wanted](Remedy remedy) { wanted = remedy; });
+    openChooser();
+    QMessageBox *box = window().findChild<QMessageBox *>(QLatin1String("Dashboard_NoNetworkBox"));
+    QVERIFY(box && box->isVisible());
+    QVERIFY(box->text().contains(QLatin1String("codes of its own")));
+    QPushButton *wayOut = qobject_cast<QPushButton *>(box->buttons().first());
+    QCOMPARE(wayOut->text(), remedyText(Remedy::UseMyModem));
+    wayOut->click();
+    drainEvents();
+    QVERIFY(wanted == Remedy::UseMyModem);
 }
 
 void OperatorCodesTest::noIsRememberedForTheNetwork()

@@ -7,8 +7,14 @@
 #include <QTimer>
 
 #include "OddFiles.h"
+#include "pages/CodesPage.h"
+#include "pages/HistoryPopup.h"
+#include "pages/HistoryView.h"
+#include "plugin/EditorHints.h"
 #include "plugin/ProfileBackup.h"
+#include "PluginFiles.h"
 #include "SimTest.h"
+#include "window/Banners.h"
 #include "window/ProfileKeeper.h"
 
 using namespace Dashboard;
@@ -28,6 +34,14 @@ QTableWidget *openTable()
             return qobject_cast<QTableWidget *>(widget);
     }
     return nullptr;
+}
+
+int firstEmptyRow(const QTableWidget *table)
+{
+    int row = 0;
+    while (table->item(row, 1) && !table->item(row, 1)->text().isEmpty())
+        ++row;
+    return row;
 }
 
 QMessageBox *openBox()
@@ -76,6 +90,9 @@ private slots:
     void whatIsSavedMeanwhileDoesNotReplaceTheOfferedCopy();
     void aRestoreThatFailsIsSaid();
     void whatTheEditorSavesIsCopied();
+    void theEditorShowsWhereToType();
+    void aCodeWithoutAButtonIsShownInTheHistory();
+    void aCodeGetsAFreeButton();
 
 private:
     void confirm();
@@ -83,6 +100,7 @@ private:
     bool writeCopy(const QByteArray &content) { return writeTo(m_copy, content); }
     bool writeTo(const QString &path, const QByteArray &content);
     void typeCode();
+    void edit();
 
     QString m_file;
     QString m_copy;
@@ -408,9 +426,7 @@ void ProfileBackupTest::typeCode()
     QTableWidget *table = openTable();
     if (!table)
         return;
-    int row = 0;
-    while (table->item(row, 1) && !table->item(row, 1)->text().isEmpty())
-        ++row;
+    const int row = firstEmptyRow(table);
     table->setItem(row, 0, new QTableWidgetItem(QLatin1String("Mine")));
     table->setItem(row, 1, new QTableWidgetItem(QLatin1String("*777#")));
     confirm();
@@ -419,19 +435,73 @@ void ProfileBackupTest::typeCode()
         ->click();
 }
 
+/// Opens the editor, and saves a new code.
+void ProfileBackupTest::edit()
+{
+    QTimer::singleShot(0, this, [this] { typeCode(); });
+    window().editCodes();
+}
+
 void ProfileBackupTest::whatTheEditorSavesIsCopied()
 {
     const ProfileBackup backup(m_library->userProfileFile(), QString(), m_copy);
     openDashboard();
     ProfileKeeper keeper(backup);
     window().setProfiles(&keeper);
-    QPushButton *edit = window().page()->findChild<QPushButton *>(
-        QLatin1String("USSDUIPlugin_AdvancedDialog_EditButton"));
-    QVERIFY(edit);
-    QTimer::singleShot(0, this, [this] { typeCode(); });
-    edit->click();
+    edit();
     QTRY_VERIFY2(contentOf(m_copy).contains("*777#"), contentOf(m_copy).constData());
     QCOMPARE(contentOf(m_copy), contentOf(m_library->userProfileFile()));
+}
+
+void ProfileBackupTest::theEditorShowsWhereToType()
+{
+    openDashboard();
+    QStringList hints;
+    QTimer::singleShot(0, this, [&hints] {
+        QTableWidget *table = openTable();
+        drainEvents();
+        const int row = firstEmptyRow(table);
+        hints << EditorHints::hintAt(table, row - 1, 0) << EditorHints::hintAt(table, row, 0)
+              << EditorHints::hintAt(table, row, 1);
+        table->setItem(row, 0, new QTableWidgetItem(QLatin1String("Mine")));
+        hints << EditorHints::hintAt(table, row, 0) << EditorHints::hintAt(table, row, 1);
+        table->setItem(row, 1, new QTableWidgetItem(QLatin1String("*777#")));
+        hints << EditorHints::hintAt(table, row, 1) << EditorHints::hintAt(table, row + 1, 0);
+        table->window()->close();
+    });
+    window().editCodes();
+    QCOMPARE(hints.join(QLatin1Char('|')),
+             QLatin1String("|Type a name|Type a code||Type a code||Type a name"));
+}
+
+void ProfileBackupTest::aCodeWithoutAButtonIsShownInTheHistory()
+{
+    openDashboard();
+    const Banners *banners = window().findChild<Banners *>();
+    edit();
+    QTRY_COMPARE(banners->shown(), int(Banners::Saved));
+    QVERIFY(banners->banner(Banners::Saved).text.contains(QLatin1String("Mine")));
+    button("Dashboard_BannerAction")->click();
+    QVERIFY(banners->shown() != Banners::Saved);
+    QCOMPARE(window().currentPage(), PageId::Codes);
+    const HistoryView *list = window().findChild<HistoryPopup *>()->view();
+    const QModelIndex current = list->currentIndex();
+    QVERIFY(list->isVisible());
+    QVERIFY(current.data().toString().contains(QLatin1String("*777#")));
+    QVERIFY(list->viewport()->rect().contains(list->visualRect(current)));
+}
+
+void ProfileBackupTest::aCodeGetsAFreeButton()
+{
+    const QByteArray profiles =
+        "<tksvdoc type=\"USSDProfile\"><item><name>A</name><value>*1#</value>"
+        "<showButton>true</showButton></item></tksvdoc>\n";
+    QVERIFY(m_library->write(Formats::PluginFiles::SYSTEM_PROFILES, profiles));
+    openDashboard();
+    edit();
+    const CodesPage *codes = window().findChild<CodesPage *>();
+    QTRY_VERIFY(codes->hasPreset(QLatin1String("Mine")));
+    QVERIFY(window().findChild<Banners *>()->shown() != Banners::Saved);
 }
 
 USSD_TEST_MAIN(ProfileBackupTest)

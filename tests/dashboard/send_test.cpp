@@ -44,6 +44,7 @@ private slots:
     void afterASignalNoAnswerIsSent();
     void aSignalEndsTheWaitForTheDevice();
     void aSignalClosesTheWindowInTheOrdinaryWay();
+    void theSizeOfTheWindowSurvivesASignal();
     void anIgnoredSignalStaysIgnored();
 
 private:
@@ -278,6 +279,28 @@ void SendTest::aSignalEndsTheWaitForTheDevice()
     DeviceWait{device, interruption, 30000}.untilReady(DeviceChoice::automatic());
     QVERIFY(time.elapsed() < 20000);
     QCOMPARE(interruption.signalNumber(), SIGTERM);
+}
+
+/// The program restores the size at the start and stores it when the signal arrives. Between the
+/// two, the stored size is removed, so that it cannot be left over.
+void SendTest::theSizeOfTheWindowSurvivesASignal()
+{
+    const QSize size(700, 590);
+    QWidget like;
+    like.resize(size);
+    DashboardSettings().setGeometry(like.saveGeometry());
+    QProcessEnvironment environment = quickNetwork();
+    environment.insert(QLatin1String("QT_QPA_PLATFORM"), QLatin1String("offscreen"));
+    const QString log = folder() + QLatin1String("/b.log");
+    QProcess process;
+    start(process, QStringList() << QLatin1String("--log") << log, environment);
+    QVERIFY(waitForLog(log, "USSDGeneralDlg"));
+    DashboardSettings().setGeometry(QByteArray());
+    process.terminate();
+    QCOMPARE(finished(process).code, 0);
+    QWidget restored;
+    QVERIFY(restored.restoreGeometry(DashboardSettings().geometry()));
+    QCOMPARE(restored.size(), size);
 }
 
 void SendTest::aSignalClosesTheWindowInTheOrdinaryWay()

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -76,8 +77,10 @@ private slots:
     void theHiddenMenuBarHasTheSameActions();
     void theNumberOfTheSimIsShownForAMoment();
     void theDemonstrationCannotBeClosed();
+    void aProblemIsShownInADemonstration();
     void oneBannerIsShownAtATime();
     void theWindowIsDimmedBehindAFrame();
+    void theWindowIsDimmedUntilTheLastDialogIsClosed();
     void theFormWaitsForTheFrame();
     void theMessageTellsTheStrengthInWords();
 
@@ -453,25 +456,57 @@ void ShellTest::theDemonstrationCannotBeClosed()
     QVERIFY(banners->isVisible());
     QCOMPARE(banners->shown(), int(Banners::Demonstration));
     QVERIFY(!part<QPushButton>("Dashboard_BannerClose")->isVisible());
+    QVERIFY(!part<QPushButton>("Dashboard_BannerAction")->icon().isNull());
     QVERIFY(m_window->windowTitle().contains(QLatin1String("Demonstration")));
     QVERIFY(part<Chip>("Dashboard_PaidType")->isVisible());
     QCOMPARE(part<Chip>("Dashboard_PaidType")->text(), QLatin1String("Demonstration"));
 }
 
+void ShellTest::aProblemIsShownInADemonstration()
+{
+    const Banners *banners = m_window->findChild<Banners *>();
+    m_window->showProblem(QLatin1String("The disk is full."));
+    QCOMPARE(banners->shown(), int(Banners::Problem));
+    QVERIFY(m_window->windowTitle().contains(QLatin1String("Demonstration")));
+    QVERIFY(part<Chip>("Dashboard_PaidType")->isVisible());
+    part<QPushButton>("Dashboard_BannerClose")->click();
+    QCOMPARE(banners->shown(), int(Banners::Demonstration));
+}
+
 void ShellTest::oneBannerIsShownAtATime()
 {
     Banners banners;
+    banners.setBanner(Banners::Demonstration,
+                      {QLatin1String("d"), QString(), QString(), QString()});
+    QCOMPARE(banners.shown(), int(Banners::Demonstration));
     banners.setBanner(Banners::Restore, {QLatin1String("r"), QString(), QString(), QString()});
     QCOMPARE(banners.shown(), int(Banners::Restore));
     banners.setBanner(Banners::Problem, {QLatin1String("p"), QString(), QString(), QString()});
     QCOMPARE(banners.shown(), int(Banners::Problem));
-    banners.setBanner(Banners::Demonstration,
-                      {QLatin1String("d"), QString(), QString(), QString()});
-    QCOMPARE(banners.shown(), int(Banners::Demonstration));
-    banners.setBanner(Banners::Demonstration, Banner());
+    banners.setBanner(Banners::Saved, {QLatin1String("s"), QString(), QString(), QString()});
+    QCOMPARE(banners.shown(), int(Banners::Saved));
+    banners.setBanner(Banners::Saved, Banner());
     QCOMPARE(banners.shown(), int(Banners::Problem));
     const QLabel *title = banners.findChild<QLabel *>(QLatin1String("Dashboard_BannerTitle"));
     QCOMPARE(title->text(), QLatin1String("p"));
+}
+
+void ShellTest::theWindowIsDimmedUntilTheLastDialogIsClosed()
+{
+    const Scrim *scrim = m_window->findChild<Scrim *>();
+    QMessageBox first(m_window.data());
+    QMessageBox second(&first);
+    first.open();
+    QVERIFY(scrim->isVisible());
+    second.open();
+    second.close();
+    QVERIFY(scrim->isVisible());
+    first.close();
+    QTRY_VERIFY(!scrim->isVisible());
+    QMessageBox beside(m_window.data());
+    beside.setModal(false);
+    beside.show();
+    QVERIFY(!scrim->isVisible());
 }
 
 void ShellTest::theWindowIsDimmedBehindAFrame()

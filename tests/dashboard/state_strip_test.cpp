@@ -89,6 +89,8 @@ protected:
 
 private slots:
     void theHeightIsTheSameInEveryState();
+    void theNarrowStripIsReadyInOneWord();
+    void theSecondRowStandsAboveTheMargin();
     void theSmallestWindowIsWideEnough();
     void readyOffersTheLastCodes();
     void waitingShowsTheSeconds();
@@ -173,6 +175,30 @@ void StateStripTest::theHeightIsTheSameInEveryState()
         }
     }
     QCOMPARE(heights, QSet<int>{Look::instance().px(116)});
+}
+
+void StateStripTest::theNarrowStripIsReadyInOneWord()
+{
+    const QWidget *text = strip().findChild<QWidget *>(QLatin1String("Dashboard_StripText"));
+    strip().setForm(Form::Narrow);
+    show(stateOf(Kind::Ready, 0));
+    QVERIFY(text->isHidden() && !strip().title().isEmpty());
+    show(stateOf(Kind::MenuOpen, 3));
+    QVERIFY(!text->isHidden());
+    strip().setForm(Form::Wide);
+    show(stateOf(Kind::Ready, 0));
+    QVERIFY(!text->isHidden());
+}
+
+void StateStripTest::theSecondRowStandsAboveTheMargin()
+{
+    for (const Kind kind : KINDS) {
+        show(stateOf(kind, 3));
+        const QWidget *row = strip().findChild<QWidget *>(QLatin1String("Dashboard_StripRow"));
+        const int below = strip().contentsRect().bottom() - row->geometry().bottom();
+        QCOMPARE(below, Look::instance().px(14));
+        QCOMPARE(row->height(), Look::instance().px(36));
+    }
 }
 
 // Tests that the strip fits into the smallest window, which is 360 pixels wide. The margins need 16

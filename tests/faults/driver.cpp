@@ -152,7 +152,7 @@ private:
     static void tell()
     {
         const Banners *banners = mainWindow()->findChild<Banners *>();
-        for (int kind = Banners::Demonstration; kind <= Banners::Restore; ++kind) {
+        for (int kind = Banners::Saved; kind <= Banners::Demonstration; ++kind) {
             const Banner &banner = banners->banner(Banners::Kind(kind));
             if (!banner.title.isEmpty())
                 print("notice", banner.title + QLatin1String(": ") + banner.text);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontInfo>
+#include <QLabel>
 #include <QPointer>
 #include <QStyle>
 #include <QToolTip>
@@ -42,6 +43,19 @@ void useStyle()
 {
     if (QApplication::style()->objectName() != QLatin1String(STYLE))
         QApplication::setStyle(QLatin1String(STYLE));
+}
+
+// A label keeps the colour that links had when its text was set.
+void colorLinksAgain()
+{
+    for (QWidget *widget : QApplication::allWidgets()) {
+        QLabel *label = qobject_cast<QLabel *>(widget);
+        const QString text = label ? label->text() : QString();
+        if (!text.contains(QLatin1String("<a ")) || label->textFormat() == Qt::PlainText)
+            continue;
+        label->clear();
+        label->setText(text);
+    }
 }
 
 } // namespace
@@ -146,6 +160,7 @@ void Look::dress()
     QApplication::setPalette(lookPalette(shade()));
     QToolTip::setPalette(toolTipPalette(shade()));
     qApp->setStyleSheet(sheet);
+    colorLinksAgain();
 }
 
 QFont sized(QFont font, int at100Percent, QFont::Weight weight)

@@ -109,7 +109,7 @@ QLayout *BalanceCard::makeValidity()
 
 QWidget *BalanceCard::makeButtons()
 {
-    m_buttonRow->setContentsMargins(0, 0, 0, 0);
+    setMargins(m_buttonRow, 0, 8, 0, 0); // keeps the distance from a validity of two lines
     setSpacing(m_buttonRow, 8);
     setButtonIcon(m_topUp, "topup", Token::HeroA);
     setButtonIcon(m_ask, "refresh", Token::OnHero);

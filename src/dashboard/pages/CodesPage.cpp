@@ -36,6 +36,7 @@ namespace
 
 const double LARGEST_SCALE_OF_A_FRAME = 1.3; // the frame of the general window has a fixed size
 const int CHOICE_KEYS = 10;
+const int MOST_PRESETS = 11;   // the maximum number of preset buttons in the general window
 const int PAYMENT_BUTTONS = 2; // the number of preset buttons that require a number
 
 /// Returns the complete name of a preset button, even if the button shows an elided name.
@@ -238,6 +239,22 @@ QList<QPushButton *> CodesPage::presets() const
 {
     return m_area->canvas()->findChildren<QPushButton *>(
         QLatin1String("USSDUIPlugin_AdvancedDialog_PreButton"));
+}
+
+bool CodesPage::hasPreset(const QString &name) const
+{
+    for (const QPushButton *button : presets()) {
+        if (fullName(button) == name)
+            return true;
+    }
+    return false;
+}
+
+/// Returns true if restarting the plug-in would create a button for a new code. The plug-in creates
+/// the buttons together with its window, so a restart deletes the transcript.
+bool CodesPage::canMakePresets() const
+{
+    return presets().size() < MOST_PRESETS && general().transcript().isEmpty();
 }
 
 // ---- commands ------------------------------------------------------------------------------
@@ -522,8 +539,13 @@ void CodesPage::answerNumber(int position)
 
 void CodesPage::openHistory()
 {
+    openHistoryAt(QString());
+}
+
+void CodesPage::openHistoryAt(const QString &code)
+{
     m_historyPopup->attach(general().commandEdit());
-    m_historyPopup->open();
+    m_historyPopup->open(code);
 }
 
 void CodesPage::copyReply()

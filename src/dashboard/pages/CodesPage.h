@@ -57,6 +57,10 @@ public:
     /// Shows the situation of the device. While codes cannot be sent, the general window is
     /// disabled unless a command is in flight.
     void setSituation(const Situation &situation);
+    /// Returns true if the general window has a button with this name.
+    bool hasPreset(const QString &name) const;
+    /// Returns true if the plug-in can be restarted to make buttons for new codes.
+    bool canMakePresets() const;
     /// Updates the names of the codes.
     void refreshNames();
 
@@ -80,6 +84,8 @@ public slots:
     void stop();
     void answerNumber(int position);
     void openHistory();
+    /// Opens the list of codes with this code selected.
+    void openHistoryAt(const QString &code);
     void copyReply();
     /// Opens the bar in which the user can search the transcript.
     void find();

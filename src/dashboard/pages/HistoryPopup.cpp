@@ -100,7 +100,7 @@ bool HistoryPopup::isOpen() const
     return m_view->isVisible();
 }
 
-void HistoryPopup::open()
+void HistoryPopup::open(const QString &code)
 {
     if (!m_edit || !m_edit->isEnabled())
         return;
@@ -108,7 +108,16 @@ void HistoryPopup::open()
     fill(QString());
     popUp();
     m_isRowChosen = true;
-    m_view->setCurrentIndex(m_view->model()->index(0, 0));
+    m_view->setCurrentIndex(m_view->model()->index(rowOf(code), 0));
+}
+
+/// Returns the row of the code, or the first row if the code is not listed.
+int HistoryPopup::rowOf(const QString &code) const
+{
+    int row = m_model->rowCount() - 1;
+    while (row > 0 && m_model->index(row, 0).data(CODE_ROLE).toString() != code)
+        --row;
+    return qMax(row, 0);
 }
 
 void HistoryPopup::popUp()
@@ -159,11 +168,11 @@ void HistoryPopup::fill(const QString &start)
         const QString name = nameOf(sent.code, names);
         listed << sent.code;
         if (startsWith(sent.code, name, start))
-            addRow(sent.code, name, timeText(sent.time));
+            addRow(sent.code, name, timeText(sent.time))->setIcon(icon("clock", Token::Text2));
     }
     for (const CodeName &named : names) {
         if (!listed.contains(named.code) && startsWith(named.code, named.name, start))
-            addRow(named.code, named.name, QString());
+            addRow(named.code, named.name, named.isOwn ? dashboardText("HISTORY_OWN") : QString());
     }
     addChains(start);
     if (m_model->rowCount() == 0 && start.isEmpty()) {
@@ -188,10 +197,10 @@ void HistoryPopup::addChains(const QString &start)
 }
 
 /// Adds a row and returns its first item.
-QStandardItem *HistoryPopup::addRow(const QString &code, const QString &name, const QString &time)
+QStandardItem *HistoryPopup::addRow(const QString &code, const QString &name, const QString &note)
 {
     QList<QStandardItem *> row;
-    for (const QString &text : {isolated(code), name, time}) {
+    for (const QString &text : {isolated(code), name, note}) {
         row << new QStandardItem(text);
         row.last()->setData(code, CODE_ROLE);
     }
@@ -200,7 +209,7 @@ QStandardItem *HistoryPopup::addRow(const QString &code, const QString &name, co
     row.first()->setFont(font);
     row.last()->setForeground(Look::instance().color(Token::Text3));
     row.last()->setTextAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-    row.first()->setIcon(icon(time.isEmpty() ? "codes" : "clock", Token::Text2));
+    row.first()->setIcon(icon("codes", Token::Text2));
     m_model->appendRow(row);
     return row.first();
 }
@@ -263,7 +272,7 @@ bool HistoryPopup::moveToButton(int key)
     m_view->setButtonCurrent(false);
     if (!wasCurrent || key != Qt::Key_Up)
         return false;
-    m_view->setCurrentIndex(m_model->index(rows - 1, 0));
+    m_view->setCurrentIndex(m_view->model()->index(rows - 1, 0));
     return true;
 }
 

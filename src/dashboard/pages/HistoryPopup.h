@@ -41,7 +41,7 @@ public:
     /// menu.
     void setOpenedByTyping(bool isOpened) { m_isOpenedByTyping = isOpened; }
     /// Opens the list with all codes.
-    void open();
+    void open(const QString &code = QString());
     bool isOpen() const;
     HistoryView *view() const { return m_view; }
 
@@ -58,7 +58,8 @@ private:
     bool onPopupKey(QKeyEvent *event);
     void choose(const QModelIndex &index);
     void fill(const QString &start);
-    QStandardItem *addRow(const QString &code, const QString &name, const QString &time);
+    QStandardItem *addRow(const QString &code, const QString &name, const QString &note);
+    int rowOf(const QString &code) const;
     void addChains(const QString &start);
     void showFooter();
     bool moveToButton(int key);

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "look/Controls.h"
@@ -88,10 +89,24 @@ void HistoryView::updateGeometries()
     if (m_isUpdating)
         return;
     m_isUpdating = true;
+    const int position = verticalScrollBar()->value();
     QTreeView::updateGeometries();
     setViewportMargins(0, 0, 0, footerHeight());
     m_isUpdating = false;
+    updateScrollRange();
+    verticalScrollBar()->setValue(position);
     placeFooter();
+}
+
+/// The base class has computed the range without the footer, which would hide the last row.
+void HistoryView::updateScrollRange()
+{
+    const int rows = model() ? model()->rowCount() : 0;
+    if (rows == 0)
+        return;
+    const int visible = viewport()->height() / qMax(1, rowHeight(model()->index(0, 0)));
+    verticalScrollBar()->setRange(0, qMax(0, rows - visible));
+    verticalScrollBar()->setPageStep(visible);
 }
 
 void HistoryView::resizeEvent(QResizeEvent *event)

@@ -40,6 +40,7 @@ protected:
 
 private:
     void placeFooter();
+    void updateScrollRange();
 
     QWidget *m_footer;
     ElidedLabel *m_note;

@@ -226,13 +226,14 @@ MessageReader::MessageReader(QWidget *parent)
     QVBoxLayout *content = new QVBoxLayout(m_content);
     content->setContentsMargins(0, 0, 0, 0);
     setSpacing(content, 12);
+    m_text->setFocusPolicy(Qt::ClickFocus); // the Tab key stops at the scroll area instead
     content->addWidget(m_text);
     content->addSpacing(px(8));
     content->addWidget(m_chip, 0, Qt::AlignLeft);
     content->addWidget(m_answers);
     content->addStretch();
     QScrollArea *scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setObjectName(QLatin1String("Dashboard_MessageScroll"));
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidgetResizable(true);
     scroll->setWidget(m_content);

@@ -149,7 +149,8 @@ void StateStrip::makeRows()
     setSpacing(m_rowLayout, SPACING);
     QVBoxLayout *column = new QVBoxLayout(this);
     column->setSpacing(0);
-    column->addLayout(top, 1);
+    column->addLayout(top);
+    column->addStretch(1); // the first row has a maximum height, so it would be centred
     column->addWidget(m_row);
     setForm(m_form);
 }
@@ -275,7 +276,7 @@ void StateStrip::update()
                   m_state.choices.isEmpty() ? m_state.text
                                             : dashboardText("STRIP_MENU_CHOOSE_NARROW"));
     else if (m_state.kind == Kind::Ready && isNarrow)
-        showWords(m_state.title, dashboardText("STRIP_READY_NARROW"));
+        showWords(m_state.title, QString()); // few languages have room for more than a word
     else
         showWords(m_state.title, m_state.text);
     updateIcon();
@@ -289,6 +290,7 @@ void StateStrip::showWords(const QString &title, const QString &text)
 {
     m_title->setText(title);
     m_text->setText(text);
+    m_text->setVisible(!text.isEmpty());
     const bool isFailure = !isBlocked() && m_state.kind == Kind::Failed;
     setLabelType(m_title, isFailure ? "danger" : "h3");
     setStyleProperty(this, "state", QLatin1String(isBlocked() ? "" : styleOf(m_state.kind)));

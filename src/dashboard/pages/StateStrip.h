@@ -23,8 +23,9 @@ class SecondsRing;
 
 /** A code and the name that the operator or the user has given it. */
 struct CodeName {
-    QString code; // without numbers and PINs; see codeWithoutNumbers()
-    QString name; // may be empty
+    QString code;       // without numbers and PINs; see codeWithoutNumbers()
+    QString name;       // may be empty
+    bool isOwn = false; // one of the user's own codes
 };
 
 /**

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QGridLayout>
 
+#include "look/Icons.h"
 #include "look/Look.h"
 
 namespace Dashboard
@@ -24,10 +25,11 @@ struct Appearance {
 
 // Indexed by Banners::Kind.
 const Appearance APPEARANCES[] = {
-    {"banner_warn", "flask", Token::Warn, "strong"},
+    {"banner_info", "check", Token::AccentText, "strong"},
     {"banner_info", "tag", Token::AccentText, "strong"},
     {"banner_warn", "warning", Token::Warn, "strong"},
     {"banner_info", "info", Token::AccentText, "strong"},
+    {"banner_warn", "flask", Token::Warn, "strong"},
 };
 
 } // namespace
@@ -44,6 +46,7 @@ Banners::Banners(QWidget *parent)
     m_text->setObjectName(QLatin1String("Dashboard_BannerText"));
     m_action->setObjectName(QLatin1String("Dashboard_BannerAction"));
     m_close->setObjectName(QLatin1String("Dashboard_BannerClose"));
+    setButtonIcon(m_action, "modem", Token::Text);
     connect(m_action, &QPushButton::clicked, this, [this] { emit actionRequested(Kind(shown())); });
     connect(m_close, &QPushButton::clicked, this, [this] { emit closeRequested(Kind(shown())); });
     connect(&Look::instance(), &Look::changed, this, &Banners::layOut);
@@ -53,7 +56,7 @@ Banners::Banners(QWidget *parent)
 
 int Banners::shown() const
 {
-    for (int kind = Demonstration; kind <= Restore; ++kind) {
+    for (int kind = Saved; kind <= Demonstration; ++kind) {
         if (!m_banners[kind].title.isEmpty())
             return kind;
     }
@@ -117,6 +120,7 @@ void Banners::refresh()
     m_title->setText(banner.title);
     m_text->setText(banner.text);
     m_action->setText(banner.action);
+    m_action->setIcon(kind == Demonstration ? icon("modem", Token::Text) : QIcon());
     m_action->setVisible(!banner.action.isEmpty());
     m_close->setText(banner.close);
     m_close->setVisible(!banner.close.isEmpty());

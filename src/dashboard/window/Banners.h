@@ -27,8 +27,9 @@ class Banners : public QFrame
 {
     Q_OBJECT
 public:
-    /// The kinds of banners. If there are several banners, the first one is shown.
-    enum Kind { Demonstration, Operator, Problem, Restore };
+    /// The kinds of banners. If there are several banners, the first one is shown. The banner of
+    /// the demonstration is the last one, because it cannot be closed and would hide the others.
+    enum Kind { Saved, Operator, Problem, Restore, Demonstration };
 
     explicit Banners(QWidget *parent = nullptr);
 
@@ -48,7 +49,7 @@ private:
     void layOut();
     void refresh();
 
-    Banner m_banners[Restore + 1];
+    Banner m_banners[Demonstration + 1];
     QGridLayout *m_grid;
     IconView *m_icon;
     ElidedLabel *m_title;

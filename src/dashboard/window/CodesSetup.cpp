@@ -35,6 +35,12 @@ QStringList templatesInUse()
     return codes;
 }
 
+/// Returns the code with an ellipsis instead of the placeholder for a number.
+QString shownCode(QString code)
+{
+    return code.replace(Formats::INPUT_PLACEHOLDER, QString(HIDDEN_DIGITS));
+}
+
 QList<NamedCode> codesInUse()
 {
     return readAccountCodes(CodeFiles::inUse(), PaidType::Unknown).all;
@@ -44,8 +50,9 @@ QList<NamedCode> codesInUse()
 
 CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourites *favourites,
                        QWidget *pages, QObject *parent)
-    : QObject(parent), m_controller(controller), m_history(historyFile(controller)),
-      m_chains(&controller->monitor()), m_walks(&controller->monitor()),
+    : QObject(parent), m_controller(controller), m_actions(actions),
+      m_history(historyFile(controller)), m_chains(&controller->monitor()),
+      m_walks(&controller->monitor()),
       m_page(new CodesPage({controller->plugin(), &controller->monitor(), &m_history,
                             [this] { return names(); }, &controller->modes(), &m_chains, &m_walks,
                             favourites},
@@ -54,7 +61,7 @@ CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourite
     followChains();
     connect(controller, &AppController::pluginStarted, this, &CodesSetup::onPluginStarted);
     connect(controller, &AppController::windowsOffered, this, &CodesSetup::offerWindow);
-    connect(controller, &AppController::frameClosed, this, &CodesSetup::readCodes);
+    connect(controller, &AppController::frameClosed, this, &CodesSetup::onFrameClosed);
     connect(&m_history, &CodeHistory::notWritten, controller, [controller](const QString &error) {
         emit controller->problem(dashboardText("HISTORY_NOT_WRITTEN").arg(error));
     });
@@ -91,15 +98,54 @@ QList<CodeName> CodesSetup::names() const
 {
     QList<CodeName> names;
     for (const NamedCode &named : codesInUse()) {
-        QString code = named.code;
-        names << CodeName{code.replace(Formats::INPUT_PLACEHOLDER, QString(HIDDEN_DIGITS)),
-                          named.name};
+        names << CodeName{shownCode(named.code), named.name, named.isOwn};
     }
     return names;
 }
 
+/// Looks for codes that the user has saved in the profile editor. If there is room for their
+/// buttons, the plug-in is restarted to make them.
+void CodesSetup::onFrameClosed()
+{
+    const QStringList known = m_known;
+    readCodes();
+    m_new.clear();
+    for (const QString &code : m_known) {
+        if (!known.contains(code))
+            m_new << code;
+    }
+    if (!m_new.isEmpty() && m_page->canMakePresets())
+        m_controller->beginAnew();
+    else
+        reportNewCodes();
+}
+
+void CodesSetup::showNewCodes()
+{
+    m_actions->showPage(PageId::Codes);
+    m_page->openHistoryAt(m_reported);
+}
+
+void CodesSetup::reportNewCodes()
+{
+    QStringList names;
+    for (const NamedCode &named : codesInUse()) {
+        if (!m_new.contains(named.code) || m_page->hasPreset(named.name))
+            continue;
+        if (names.isEmpty())
+            m_reported = shownCode(named.code);
+        names << named.name;
+    }
+    m_new.clear();
+    if (!names.isEmpty())
+        emit savedWithoutButton(names);
+}
+
 void CodesSetup::readCodes()
 {
+    m_known.clear();
+    for (const NamedCode &named : codesInUse())
+        m_known << named.code;
     const QStringList templates = templatesInUse();
     m_controller->monitor().setTemplates(templates);
     m_history.setTemplates(templates);
@@ -134,6 +180,7 @@ void CodesSetup::offerWindow()
     m_isOffered = isOffered;
     retranslate();
     readCodes();
+    reportNewCodes();
 }
 
 void CodesSetup::retranslate()

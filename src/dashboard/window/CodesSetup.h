@@ -31,6 +31,13 @@ public:
 
     CodesPage *page() const { return m_page; }
 
+    /// Opens the list of codes with the first of the new codes selected.
+    void showNewCodes();
+
+signals:
+    /// Emitted with the names of the codes that the user has just saved and that have no button.
+    void savedWithoutButton(const QStringList &names);
+
 public slots:
     /// Applies changed settings.
     void followSettings();
@@ -42,16 +49,22 @@ private:
     QList<CodeName> names() const;
     void onPluginStarted(const PluginFailure &failure);
     void offerWindow();
+    void onFrameClosed();
+    void reportNewCodes();
     void readCodes();
     void followChains();
     void followDevice();
 
     AppController *const m_controller;
+    AppActions *const m_actions;
     CodeHistory m_history;
     ChainRunner m_chains;
     WalkWatcher m_walks;
     CodesPage *m_page;
     bool m_isOffered = false;
+    QStringList m_known; // the codes with names when they were last read
+    QStringList m_new;   // codes that the user has just saved
+    QString m_reported;  // the first code without a button, as the list of codes shows it
 };
 
 } // namespace Dashboard

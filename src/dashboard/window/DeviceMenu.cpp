@@ -11,12 +11,30 @@ namespace Dashboard
 namespace
 {
 
+/// The demonstrations that are installed with the program.
+const struct {
+    const char *name;
+    const char *textKey;
+} NETWORKS[] = {{"postpaid", "NETWORK_POSTPAID"}, {"weak-signal", "NETWORK_WEAK_SIGNAL"}};
+
 const char DEFAULT_NAME[] = "default";
 
 /// Returns the name with "&" escaped, because a single "&" would mark a mnemonic.
 QString asMenuText(QString name)
 {
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+/// Returns the name of a demonstration in the user's language, or the name of the file if the user
+/// has selected it.
+QString nameOf(const QString &file, const QStringList &shipped)
+{
+    const QString name = Scenarios::displayName(file);
+    for (const auto &known : NETWORKS) {
+        if (name == QLatin1String(known.name) && shipped.contains(file))
+            return dashboardText(known.textKey);
+    }
+    return name;
 }
 
 } // namespace
@@ -68,14 +86,14 @@ void DeviceMenu::addModems()
 void DeviceMenu::addScenarios()
 {
     addChoice(dashboardText("NETWORK_DEFAULT"), DeviceChoice::simulated(QString()));
-    QStringList files = Scenarios::shipped();
+    const QStringList shipped = Scenarios::shipped();
+    QStringList files = shipped;
     if (m_choice.kind == DeviceChoice::Simulated && !m_choice.name.isEmpty() &&
         !files.contains(m_choice.name))
         files << m_choice.name;
     for (const QString &file : files) {
         if (Scenarios::displayName(file) != QLatin1String(DEFAULT_NAME))
-            addChoice(dashboardText("NETWORK_DEMONSTRATION")
-                          .arg(asMenuText(Scenarios::displayName(file))),
+            addChoice(dashboardText("NETWORK_DEMONSTRATION").arg(asMenuText(nameOf(file, shipped))),
                       DeviceChoice::simulated(file));
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QStackedWidget>
 #include <QWindow>
 
@@ -9,6 +10,7 @@
 #include "account/AccountWords.h"
 #include "AppMenu.h"
 #include "base/DashboardText.h"
+#include "base/Isolate.h"
 #include "CodesSetup.h"
 #include "device/DashboardSettings.h"
 #include "device/Situation.h"
@@ -30,6 +32,7 @@
 #include "pages/MessagesPage.h"
 #include "pages/ServicesPage.h"
 #include "pages/SettingsPage.h"
+#include "plugin/EditorHints.h"
 #include "plugin/LoadedPlugin.h"
 #include "ProfileKeeper.h"
 #include "RemedyRunner.h"
@@ -45,6 +48,22 @@ namespace
 bool isFrame(const QObject *object)
 {
     return qobject_cast<const ExtendDialog *>(object);
+}
+
+/// Returns true if the window must be closed before the main window can be used.
+bool isModalDialog(const QObject *object)
+{
+    const QDialog *dialog = qobject_cast<const QDialog *>(object);
+    return dialog && (isFrame(dialog) || dialog->isModal());
+}
+
+bool hasOtherDialog(const QObject *dialog)
+{
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (window != dialog && window->isVisible() && isModalDialog(window))
+            return true;
+    }
+    return false;
 }
 
 /// Returns true if the operator is known in a situation of this kind.
@@ -121,6 +140,11 @@ void MainWindow::followBanners()
     connect(m_banners, &Banners::closeRequested, this, &MainWindow::onBannerClosed);
     connect(m_chooser, &OperatorChooser::problem, this, &MainWindow::showProblem);
     connect(m_chooser, &OperatorChooser::changed, this, &MainWindow::showDevice);
+    connect(m_chooser, &OperatorChooser::remedyRequested, this, &MainWindow::perform);
+    connect(m_codes, &CodesSetup::savedWithoutButton, this, [this](const QStringList &names) {
+        m_saved = names;
+        showBanners();
+    });
 }
 
 void MainWindow::followRemedies()
@@ -391,15 +415,36 @@ void MainWindow::showBanners()
     if (m_profiles && !m_profiles->offer().isEmpty())
         restore = {dashboardText("BANNER_RESTORE"), m_profiles->offer(),
                    dashboardText("BANNER_RESTORE_YES"), dashboardText("BANNER_RESTORE_NO")};
+    m_banners->setBanner(Banners::Saved, savedBanner());
     m_banners->setBanner(Banners::Demonstration, demonstration);
     m_banners->setBanner(Banners::Operator, proposal);
     m_banners->setBanner(Banners::Problem, problem);
     m_banners->setBanner(Banners::Restore, restore);
 }
 
+/// Returns the banner that tells where the new codes are that have no button.
+Banner MainWindow::savedBanner() const
+{
+    if (m_saved.isEmpty())
+        return Banner();
+    return {
+        dashboardText("BANNER_SAVED"),
+        dashboardText("BANNER_SAVED_TEXT").arg(isolatedWords(m_saved.join(QLatin1String(", ")))),
+        dashboardText("BANNER_SAVED_SHOW"), dashboardText("CODES_CLOSE")};
+}
+
+void MainWindow::showSavedCodes()
+{
+    m_saved.clear();
+    showBanners();
+    m_codes->showNewCodes();
+}
+
 void MainWindow::onBannerAction(Banners::Kind kind)
 {
-    if (kind == Banners::Demonstration)
+    if (kind == Banners::Saved)
+        showSavedCodes();
+    else if (kind == Banners::Demonstration)
         perform(Remedy::UseMyModem);
     else if (kind == Banners::Operator)
         m_chooser->accept();
@@ -409,7 +454,10 @@ void MainWindow::onBannerAction(Banners::Kind kind)
 
 void MainWindow::onBannerClosed(Banners::Kind kind)
 {
-    if (kind == Banners::Operator) {
+    if (kind == Banners::Saved) {
+        m_saved.clear();
+        showBanners();
+    } else if (kind == Banners::Operator) {
         m_chooser->decline();
     } else if (kind == Banners::Problem) {
         m_problem.clear();
@@ -432,20 +480,28 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QMainWindow::closeEvent(event);
 }
 
-// Dims the main window while a window of the plug-in is open. The state of the frame is checked
-// later, because it has not changed yet when the event is sent.
+void MainWindow::onFrame(QWidget *frame, bool isShown)
+{
+    if (!isShown) {
+        QMetaObject::invokeMethod(
+            this, [this] { updateForm(); }, Qt::QueuedConnection);
+        return;
+    }
+    EditorHints::addTo(frame);
+    // Otherwise, a click could raise this window above the modal one, and nothing would react.
+    frame->windowHandle()->setTransientParent(windowHandle());
+}
+
+// Dims the main window while a dialog or a window of the plug-in is open. The state of the frame is
+// checked later, because it has not changed yet when the event is sent.
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isShown = event->type() == QEvent::Show;
-    if ((isShown || event->type() == QEvent::Hide) && isFrame(watched)) {
-        m_scrim->setShown(isShown);
-        // Otherwise, a click could raise this window above the modal one, and nothing would react.
-        if (isShown)
-            static_cast<QWidget *>(watched)->windowHandle()->setTransientParent(windowHandle());
-        else
-            QMetaObject::invokeMethod(
-                this, [this] { updateForm(); }, Qt::QueuedConnection);
-    }
+    const bool isChange = isShown || event->type() == QEvent::Hide;
+    if (isChange && isModalDialog(watched))
+        m_scrim->setShown(isShown || hasOtherDialog(watched));
+    if (isChange && isFrame(watched))
+        onFrame(static_cast<QWidget *>(watched), isShown);
     return QMainWindow::eventFilter(watched, event);
 }
 

@@ -137,9 +137,12 @@ private:
     void updateForm();
     void applyForm();
     void placeParts();
+    void onFrame(QWidget *frame, bool isShown);
 
     bool useDevice(const QString &error);
     QString choiceText() const;
+    Banner savedBanner() const;
+    void showSavedCodes();
     void chooseDevice(const QString &word);
     void openScenario();
     void onBannerAction(Banners::Kind kind);
@@ -170,6 +173,7 @@ private:
     MessageParts *m_messages;
     ProfileKeeper *m_profiles = nullptr;
     QString m_problem;
+    QStringList m_saved; // the names of new codes without a button
     AppMenu *m_menu;
     QWidget *m_root;
     QGridLayout *m_grid;

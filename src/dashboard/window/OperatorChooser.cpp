@@ -1,10 +1,14 @@
 #include "OperatorChooser.h"
 
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <QWidget>
 
 #include "base/DashboardText.h"
 #include "CommonUtils.h"
+#include "device/Situation.h"
+#include "look/Controls.h"
 #include "OperatorDialog.h"
 #include "sim/OperatorCodes.h"
 
@@ -91,7 +95,7 @@ void OperatorChooser::choose()
     if (!m_codes->isFree())
         return say("CODES_CHOSEN_OUTSIDE");
     if (m_codes->network().isEmpty())
-        return say("CODES_NO_SIM");
+        return explainMissingNetwork();
     if (!m_codes->hasDatabase())
         return say("CODES_NO_LIST");
     if (m_dialog)
@@ -142,6 +146,28 @@ bool OperatorChooser::mayBeSetAside(const QStringList &files, const QString &ope
     return CommonUtils::ShowMessage(QMessageBox::Question, m_window, dashboardText("CODES_CAPTION"),
                                     question, QLatin1String("IDS_YES"),
                                     QLatin1String("IDS_NO")) == QMessageBox::Ok;
+}
+
+/// Explains why no operator can be chosen, with a button that leads to where one can.
+void OperatorChooser::explainMissingNetwork()
+{
+    const bool isSimulated = m_codes->isSimulated();
+    const Remedy remedy = isSimulated ? Remedy::UseMyModem : Remedy::ChooseModem;
+    QMessageBox *box =
+        new QMessageBox(QMessageBox::Information, dashboardText("CODES_CAPTION"),
+                        dashboardText(isSimulated ? "CODES_DEMONSTRATION" : "CODES_NO_SIM"),
+                        QMessageBox::NoButton, m_window);
+    box->setObjectName(QLatin1String("Dashboard_NoNetworkBox"));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QPushButton *wayOut = box->addButton(remedyText(remedy), QMessageBox::AcceptRole);
+    setButtonKind(wayOut, "primary");
+    box->setEscapeButton(box->addButton(dashboardText("SHEET_CLOSE"), QMessageBox::RejectRole));
+    // Queued, because the action may open a menu, which needs the box to be closed.
+    connect(
+        wayOut, &QPushButton::clicked, this, [this, remedy] { emit remedyRequested(remedy); },
+        Qt::QueuedConnection);
+    box->open();
 }
 
 void OperatorChooser::say(const char *key)

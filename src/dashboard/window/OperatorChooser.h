@@ -13,6 +13,7 @@ namespace Dashboard
 
 class OperatorCodes;
 class OperatorDialog;
+enum class Remedy;
 
 /**
  * Suggests an operator's codes once for each home network, and lets the user change this
@@ -53,6 +54,8 @@ signals:
     void changed();
     /// Emitted with an error message in the user's language.
     void problem(const QString &text);
+    /// Emitted when the user has chosen this way to a SIM for which an operator can be chosen.
+    void remedyRequested(Remedy remedy);
 
 private:
     enum State { Nothing, OneProposed, SeveralProposed, Unknown };
@@ -61,6 +64,7 @@ private:
     State wantedState();
     void useChosen(bool isOperator, const Provisioning::Provider &provider);
     bool mayBeSetAside(const QStringList &files, const QString &operatorName);
+    void explainMissingNetwork();
     void say(const char *key);
 
     OperatorCodes *const m_codes;
