@@ -30,7 +30,8 @@ const int REPLY_WITHOUT_MENU = 0; // the type of a final reply
 
 /**
  * Runs tasks one after another on a thread of this library. All call-backs run on this thread.
- * Therefore, only one call-back runs at a time, and never during a call from the client.
+ * Therefore, call-backs never run concurrently, and are never invoked from within a call by the
+ * client.
  */
 class Worker
 {

@@ -1,8 +1,8 @@
 /*
- * Tests how a host may shut down the loaded plug-in, with every order of calls in every state of
- * the plug-in. A sequence consists of up to five calls, some of which may be repeated, and SDK
- * call-backs between them. The library is unloaded in the same iteration of the event loop, so that
- * the program would crash if any call-back or event remained.
+ * Tests all the ways in which a host may shut down the loaded plug-in: every order of calls, in
+ * every state of the plug-in. A sequence consists of up to five calls, some of which may be
+ * repeated, and SDK call-backs between them. The library is unloaded in the same event loop
+ * iteration as the last call, so that the program would crash if any call-back or event remained.
  */
 #include "UssdTest.h"
 

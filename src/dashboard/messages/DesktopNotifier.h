@@ -37,7 +37,7 @@ public:
     void notify(const DesktopNote &note);
     /// Removes the notification of this kind, for example because the user has read the message.
     void withdraw(DesktopNote::Kind kind);
-    /// Returns the text with all characters escaped that notification services treat as markup.
+    /// Returns the text with all markup characters of notification services escaped.
     static QString escaped(const QString &text);
 
 signals:

@@ -92,8 +92,8 @@ bool MessageModel::matches(const Message &message) const
            message.text.toCaseFolded().contains(words);
 }
 
-/// Returns the row for a new message. It is not always the first row, because messages that the
-/// device has kept may be older than stored ones.
+/// Returns the row for a new message. It is not always the first row, because a message
+/// that was waiting on the device may be older than messages that are already in the model.
 int MessageModel::rowFor(const Message &message) const
 {
     int row = 0;

@@ -103,8 +103,8 @@ QList<CodeName> CodesSetup::names() const
     return names;
 }
 
-/// Looks for codes that the user has saved in the profile editor. If there is room for their
-/// buttons, the plug-in is restarted to make them.
+/// Looks for codes that the user has saved in the profile editor. If there is room for
+/// more buttons, restarts the plug-in so that it creates a button for each new code.
 void CodesSetup::onFrameClosed()
 {
     const QStringList known = m_known;

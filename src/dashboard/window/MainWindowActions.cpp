@@ -152,8 +152,8 @@ void MainWindow::showModemMenu()
     deviceMenu()->popup(line->mapToGlobal(QPoint()));
 }
 
-/// Deletes what the program has kept about the user. The SIM gets a new key at last, because only
-/// deleted entries have the old one.
+/// Deletes what the program has kept about the user. The key of the SIM is renewed last:
+/// by then, all entries that use the old key have been deleted.
 void MainWindow::deleteAll()
 {
     codes().deleteAll();

@@ -42,7 +42,7 @@ public:
     bool isListening() const { return m_notifier; }
 
 signals:
-    /// Emitted when a later instance was started.
+    /// Emitted when another instance is started.
     void raiseRequested();
 
 private:
