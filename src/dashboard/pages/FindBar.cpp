@@ -89,6 +89,13 @@ void FindBar::setForm(Form form)
     m_rows->setDirection(form == Form::Narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
+/// Shows the current match again when the transcript has got its new size.
+void FindBar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    QMetaObject::invokeMethod(this, &FindBar::scrollToMatch, Qt::QueuedConnection);
+}
+
 // ---- open and closed -----------------------------------------------------------------------
 
 void FindBar::open()
@@ -193,7 +200,7 @@ void FindBar::highlight()
 /// Scrolls without moving the text cursor, with which the user may have selected something.
 void FindBar::scrollToMatch()
 {
-    if (m_matches.isEmpty())
+    if (m_matches.isEmpty() || !m_followed)
         return;
     const QRect match = m_followed->cursorRect(m_matches.at(m_current));
     const QRect visible = m_followed->viewport()->rect();
