@@ -5,8 +5,6 @@
 
 #include "account/DemonstrationAccount.h"
 #include "look/Look.h"
-#include "pages/ChainDialog.h"
-#include "pages/FindBar.h"
 #include "plugin/CommandMonitor.h"
 #include "plugin/GeneralWindow.h"
 #include "ShownDevice.h"
@@ -148,7 +146,7 @@ QWidget *openKeepDialog(TourGuide &guide)
 {
     const bool isOpen = press(guide, "Dashboard_KeepWalk");
     TourGuide::settle();
-    return isOpen ? guide.window()->findChild<ChainDialog *>() : nullptr;
+    return isOpen ? part<QWidget>(guide, "Dashboard_ChainDialog") : nullptr;
 }
 
 QWidget *openHistory(TourGuide &guide)
@@ -189,11 +187,11 @@ bool walkStop(TourGuide &guide)
 
 bool walkFinding(TourGuide &guide)
 {
-    FindBar *bar = guide.window()->findChild<FindBar *>();
-    bar->open();
+    QWidget *bar = part<QWidget>(guide, "Dashboard_FindBar");
+    QMetaObject::invokeMethod(bar, "open");
     typeInto(part<QLineEdit>(guide, "Dashboard_FindField"), QLatin1String("data"));
     const bool isTaken = takeInShapes(guide, "find");
-    bar->dismiss();
+    QMetaObject::invokeMethod(bar, "dismiss");
     MessageStore &messages = guide.window()->findChild<MessageParts *>()->store();
     const QDateTime now = QDateTime::currentDateTime();
     for (const char *text : {"Your data pack ends tomorrow at 14:00.",

@@ -12,13 +12,14 @@
 #include "plugin/ServiceList.h"
 #include "PluginFolderChoice.h"
 #include "sim/SimWindows.h"
-#include "UssdCode.h"
 
 namespace Dashboard
 {
 
 namespace
 {
+
+const char NUMBER[] = "%s"; // the placeholder for a number in a code
 
 QString historyFile(const AppController *controller)
 {
@@ -90,8 +91,7 @@ QList<CodeName> CodesSetup::names() const
     QList<CodeName> names;
     for (const NamedCode &named : codesInUse()) {
         QString code = named.code;
-        names << CodeName{code.replace(Formats::INPUT_PLACEHOLDER, QString(HIDDEN_DIGITS)),
-                          named.name};
+        names << CodeName{code.replace(QLatin1String(NUMBER), QString(HIDDEN_DIGITS)), named.name};
     }
     return names;
 }
