@@ -950,7 +950,7 @@
     </message>
     <message>
         <source>FAILURE_ON_LTE</source>
-        <translation>المودم متصل بشبكة 4G فقط، بينما تجيب الشبكة عن الرموز على 2G و3G.</translation>
+        <translation>المودم يستخدم 4G فقط، والرموز تحتاج هنا إلى 2G أو 3G.</translation>
     </message>
     <message>
         <source>FAILURE_CANCELLED</source>
@@ -2291,6 +2291,10 @@
     <message>
         <source>HOME_LOW</source>
         <translation>رصيد منخفض</translation>
+    </message>
+    <message>
+        <source>HOME_OUTDATED</source>
+        <translation>ربما تغيّر منذ ذلك الحين</translation>
     </message>
     <message>
         <source>HOME_NOT_ASKED</source>

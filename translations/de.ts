@@ -951,7 +951,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>FAILURE_ON_LTE</source>
-        <translation>Das Modem ist nur mit einem 4G-Netz verbunden; das Netz beantwortet Codes über 2G und 3G.</translation>
+        <translation>Das Modem nutzt nur 4G, Codes brauchen hier 2G oder 3G.</translation>
     </message>
     <message>
         <source>FAILURE_CANCELLED</source>
@@ -1019,7 +1019,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>CHAIN_STOPPED_AT</source>
-        <translation>%1 bei Schritt %2 von %3 angehalten</translation>
+        <translation>%1: Halt bei Schritt %2 von %3</translation>
     </message>
     <message>
         <source>CHAIN_NOT_SENT</source>
@@ -1295,7 +1295,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>STRIP_READY_TEXT</source>
-        <translation>Senden Sie einen Code, oder wählen Sie unten einen.</translation>
+        <translation>Senden Sie einen Code oder wählen Sie unten.</translation>
     </message>
     <message>
         <source>STRIP_READY</source>
@@ -2294,8 +2294,12 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Wenig Guthaben</translation>
     </message>
     <message>
+        <source>HOME_OUTDATED</source>
+        <translation>Kann sich geändert haben</translation>
+    </message>
+    <message>
         <source>HOME_NOT_ASKED</source>
-        <translation>Noch nicht abgefragt</translation>
+        <translation>Nicht abgefragt</translation>
     </message>
     <message>
         <source>HOME_TOP_UP</source>

@@ -950,7 +950,7 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     </message>
     <message>
         <source>FAILURE_ON_LTE</source>
-        <translation>The modem is connected to a 4G network only, and the network answers codes on 2G and 3G.</translation>
+        <translation>The modem uses only 4G, but codes need 2G or 3G here.</translation>
     </message>
     <message>
         <source>FAILURE_CANCELLED</source>
@@ -2291,6 +2291,10 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>HOME_LOW</source>
         <translation>Low balance</translation>
+    </message>
+    <message>
+        <source>HOME_OUTDATED</source>
+        <translation>May have changed since</translation>
     </message>
     <message>
         <source>HOME_NOT_ASKED</source>

@@ -950,7 +950,7 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     </message>
     <message>
         <source>FAILURE_ON_LTE</source>
-        <translation>El módem solo está conectado a una red 4G, y la red responde a los códigos por 2G y 3G.</translation>
+        <translation>El módem solo usa 4G, pero aquí los códigos necesitan 2G o 3G.</translation>
     </message>
     <message>
         <source>FAILURE_CANCELLED</source>
@@ -2291,6 +2291,10 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     <message>
         <source>HOME_LOW</source>
         <translation>Saldo bajo</translation>
+    </message>
+    <message>
+        <source>HOME_OUTDATED</source>
+        <translation>Puede haber cambiado</translation>
     </message>
     <message>
         <source>HOME_NOT_ASKED</source>

@@ -951,7 +951,7 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>FAILURE_ON_LTE</source>
-        <translation>Le modem n’est connecté qu’en 4G, et le réseau répond aux codes en 2G et en 3G.</translation>
+        <translation>Le modem n’utilise que la 4G, mais les codes exigent ici la 2G ou la 3G.</translation>
     </message>
     <message>
         <source>FAILURE_CANCELLED</source>
@@ -2292,6 +2292,10 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>HOME_LOW</source>
         <translation>Solde faible</translation>
+    </message>
+    <message>
+        <source>HOME_OUTDATED</source>
+        <translation>A pu changer depuis</translation>
     </message>
     <message>
         <source>HOME_NOT_ASKED</source>

@@ -951,7 +951,7 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     </message>
     <message>
         <source>FAILURE_ON_LTE</source>
-        <translation>O modem está ligado apenas a uma rede 4G, e a rede responde aos códigos em 2G e 3G.</translation>
+        <translation>O modem usa só 4G, mas aqui os códigos precisam de 2G ou 3G.</translation>
     </message>
     <message>
         <source>FAILURE_CANCELLED</source>
@@ -2292,6 +2292,10 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     <message>
         <source>HOME_LOW</source>
         <translation>Saldo baixo</translation>
+    </message>
+    <message>
+        <source>HOME_OUTDATED</source>
+        <translation>Pode ter mudado</translation>
     </message>
     <message>
         <source>HOME_NOT_ASKED</source>

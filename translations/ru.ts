@@ -949,7 +949,7 @@
     </message>
     <message>
         <source>FAILURE_ON_LTE</source>
-        <translation>Модем подключён только к сети 4G, а сеть отвечает на коды в 2G и 3G.</translation>
+        <translation>Модем использует только 4G, а для кодов здесь нужны 2G или 3G.</translation>
     </message>
     <message>
         <source>FAILURE_CANCELLED</source>
@@ -2290,6 +2290,10 @@
     <message>
         <source>HOME_LOW</source>
         <translation>Низкий баланс</translation>
+    </message>
+    <message>
+        <source>HOME_OUTDATED</source>
+        <translation>Мог измениться</translation>
     </message>
     <message>
         <source>HOME_NOT_ASKED</source>

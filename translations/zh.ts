@@ -947,7 +947,7 @@
     </message>
     <message>
         <source>FAILURE_ON_LTE</source>
-        <translation>调制解调器只连接了 4G 网络，而网络在 2G 和 3G 上答复代码。</translation>
+        <translation>调制解调器仅使用 4G，而代码在此需要 2G 或 3G。</translation>
     </message>
     <message>
         <source>FAILURE_CANCELLED</source>
@@ -2288,6 +2288,10 @@
     <message>
         <source>HOME_LOW</source>
         <translation>余额不足</translation>
+    </message>
+    <message>
+        <source>HOME_OUTDATED</source>
+        <translation>此后可能已变化</translation>
     </message>
     <message>
         <source>HOME_NOT_ASKED</source>

@@ -43,7 +43,7 @@ const Row ROWS[] = {
      "You are not permitted to send codes with this modem."},
     {TKSV_FAILURE_IN_USE, EXIT_IN_USE, "in-use", "Another program is using codes on this modem."},
     {TKSV_FAILURE_NOT_ON_4G, EXIT_REFUSED, "not-on-4g",
-     "The modem is connected to a 4G network only, and the network answers codes on 2G and 3G."},
+     "The modem uses only 4G, but codes need 2G or 3G here."},
     {TKSV_FAILURE_CANCELLED, EXIT_CANCELLED, "cancelled", "The command was cancelled."},
     {TKSV_FAILURE_REFUSED, EXIT_REFUSED, "refused",
      "The network or the modem refused the command."},

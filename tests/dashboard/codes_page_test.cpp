@@ -40,6 +40,7 @@ private slots:
     void aCommandOnItsWayKeepsTheWindow();
     void theKeysAnswerAndStop();
     void aHiddenNumberIsAskedFor();
+    void theHistoryFitsTheNarrowWindow();
     void theCodesSheetPressesHiddenButtons();
     void theTopUpSheetFillsInTheNumber();
     void theHistoryOpensInTheEmptyField();
@@ -255,6 +256,26 @@ void CodesPageTest::aHiddenNumberIsAskedFor()
     QCOMPARE(general().commandEdit()->text(), QLatin1String("*140*017012#"));
     QVERIFY(fakeSdkCommands().empty());
     QVERIFY(general().sendButton()->isEnabled());
+}
+
+/// Tests that the list shows the names although the field beside the Send button is narrow.
+void CodesPageTest::theHistoryFitsTheNarrowWindow()
+{
+    codes().resize(1000, 640);
+    settle();
+    codes().openHistory();
+    list()->hide();
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        codes().setLayoutDirection(direction);
+        codes().setForm(Form::Narrow);
+        codes().resize(360, 640);
+        settle();
+        codes().openHistory();
+        const QRect window(codes().mapToGlobal(QPoint()), codes().size());
+        QVERIFY(window.adjusted(8, 0, -8, 0).contains(list()->geometry()));
+        QVERIFY(list()->width() > 330);
+        list()->hide();
+    }
 }
 
 void CodesPageTest::theCodesSheetPressesHiddenButtons()

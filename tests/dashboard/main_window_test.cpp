@@ -183,8 +183,9 @@ void MainWindowTest::aChainOfTheFirstPageIsRun()
     QVERIFY(QDir().mkpath(QFileInfo(Favourites::userFile()).path()));
     QFile file(Favourites::userFile());
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("{\"version\":1,\"networks\":{\"demonstration\":{\"chains\":[{\"name\":\"Way\",\"code\":"
-               "\"*123#\",\"steps\":[{\"key\":\"2\",\"text\":\"Second\"}]}]}}}");
+    file.write(
+        "{\"version\":1,\"networks\":{\"demonstration\":{\"chains\":[{\"name\":\"Way\",\"code\":"
+        "\"*123#\",\"steps\":[{\"key\":\"2\",\"text\":\"Second\"}]}]}}}");
     file.close();
     m_window->showPage(PageId::Home);
     QList<FavouriteButton *> chains;

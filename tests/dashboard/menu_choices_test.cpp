@@ -1,3 +1,5 @@
+#include <QTextLayout>
+
 #include "plugin/MenuChoices.h"
 #include "UssdTest.h"
 
@@ -10,6 +12,7 @@ class MenuChoicesTest : public UssdTest
 private slots:
     void choicesAreRead_data();
     void choicesAreRead();
+    void theKeyStandsBeforeItsText();
 };
 
 void MenuChoicesTest::choicesAreRead_data()
@@ -68,6 +71,31 @@ void MenuChoicesTest::choicesAreRead()
     for (const MenuChoice &choice : menuChoices(menu))
         read << choice.key + QLatin1Char('=') + choice.text;
     QCOMPARE(read.join(QLatin1Char('|')), choices);
+}
+
+/// Tests that the key stands before the text, and that the text is in its own order, in a window
+/// from right to left.
+void MenuChoicesTest::theKeyStandsBeforeItsText()
+{
+    const QString text = QLatin1String("1 GB for 20 EUR");
+    const QString shown = MenuChoice{QLatin1String("3"), text}.buttonText();
+    QTextOption option;
+    option.setTextDirection(Qt::RightToLeft);
+    QTextLayout layout(shown);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    layout.endLayout();
+    const int start = shown.indexOf(text);
+    const auto place = [&line, start](const char *part, const QString &whole) {
+        return line.cursorToX(start + whole.indexOf(QLatin1String(part)));
+    };
+    QVERIFY(line.cursorToX(shown.indexOf(QLatin1Char('3'))) > place("EUR", text));
+    QVERIFY(place("1", text) < place("GB", text));
+    QVERIFY(place("GB", text) < place("20", text));
+    QCOMPARE((MenuChoice{QLatin1String("1"), QLatin1String("A & B")}.buttonText().count(
+                 QLatin1Char('&'))),
+             2);
 }
 
 USSD_TEST_MAIN(MenuChoicesTest)

@@ -377,7 +377,7 @@ void ModemWindowTest::aFailureIsSaidUntilTheNextCommand()
     send("*100#");
     QTRY_VERIFY2(commandText().contains(QLatin1String("4G")), qPrintable(commandText()));
     window().setLanguage(QLatin1String("de"));
-    QVERIFY(commandText().contains(QLatin1String("4G-Netz")));
+    QVERIFY(commandText().contains(QLatin1String("nur 4G")));
     fakeSdkSetLastFailure(TKSV_FailureInfo());
     fakeSdkSetAnswer(fakeReply(u"Balance"));
     send("*100#");

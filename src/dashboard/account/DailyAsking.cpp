@@ -74,8 +74,10 @@ bool DailyAsking::isDue() const
 
 void DailyAsking::note()
 {
+    if (!m_settings || m_code.isEmpty())
+        return; // nothing is stored, not even the random number for the key of the SIM
     const QString key = sim();
-    if (m_settings && !key.isEmpty() && !m_code.isEmpty())
+    if (!key.isEmpty())
         m_settings->setLastAsked(key, m_clock());
 }
 

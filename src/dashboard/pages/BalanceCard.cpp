@@ -7,6 +7,7 @@
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "look/Controls.h"
+#include "look/Icons.h"
 #include "look/Look.h"
 
 namespace Dashboard
@@ -35,7 +36,7 @@ BalanceCard::BalanceCard(QWidget *parent)
     : QFrame(parent), m_layout(new QVBoxLayout(this)), m_title(makeLabel("heroStrong", this)),
       m_asked(makeLabel("hero", this)), m_chips(new QWidget(this)),
       m_chipRow(new QBoxLayout(QBoxLayout::LeftToRight, m_chips)), m_age(new Chip(m_chips)),
-      m_low(new Chip(m_chips)), m_amount(makeLabel("display", this)),
+      m_low(new Chip(m_chips)), m_outdated(new Chip(m_chips)), m_amount(makeLabel("display", this)),
       m_unit(makeLabel("displayUnit", this)), m_reply(makeLabel("heroReply", this)),
       m_validity(makeLabel("hero", this)), m_buttons(new QWidget(this)),
       m_buttonRow(new QBoxLayout(QBoxLayout::LeftToRight, m_buttons)),
@@ -48,7 +49,6 @@ BalanceCard::BalanceCard(QWidget *parent)
     m_ask->setObjectName(QLatin1String("Dashboard_AskButton"));
     m_show->setObjectName(QLatin1String("Dashboard_ShowReplyButton"));
     m_amount->setObjectName(QLatin1String("Dashboard_BalanceAmount"));
-    m_asked->setObjectName(QLatin1String("Dashboard_BalanceAsked"));
     m_reply->setObjectName(QLatin1String("Dashboard_BalanceReply"));
     makeChips();
     m_layout->addLayout(makeHead());
@@ -95,7 +95,10 @@ void BalanceCard::makeChips()
     setSpacing(m_chipRow, 8);
     m_age->setTone(Tone::Neutral);
     m_low->setTone(Tone::Warn);
+    m_outdated->setTone(Tone::Warn);
+    m_outdated->setObjectName(QLatin1String("Dashboard_BalanceOutdated"));
     m_chipRow->addWidget(m_low, 0, Qt::AlignLeading);
+    m_chipRow->addWidget(m_outdated, 0, Qt::AlignLeading);
     m_chipRow->addWidget(m_age, 0, Qt::AlignLeading);
     m_chipRow->addStretch(1);
 }
@@ -150,21 +153,37 @@ int BalanceCard::rowWidth() const
     return width - m_buttonRow->spacing();
 }
 
-/// If there is not enough space, hides the text of the last button. If this is not sufficient,
-/// arranges the buttons vertically.
+/// The icons of the two buttons with texts are only decoration.
+void BalanceCard::showIcons(bool areShown)
+{
+    if (areShown == !m_ask->icon().isNull())
+        return;
+    m_topUp->setIcon(areShown ? icon("topup", Token::HeroA) : QIcon());
+    m_ask->setIcon(areShown ? icon("refresh", Token::OnHero) : QIcon());
+}
+
+/// If there is not enough space, hides the text of the last button, and then the icons of the
+/// others. If this is not sufficient, arranges the buttons vertically.
 void BalanceCard::arrangeButtons()
 {
     const QMargins margins = m_layout->contentsMargins();
     const int room = width() - margins.left() - margins.right();
     const QString text = dashboardText("HOME_SHOW_REPLY");
     m_show->setText(m_isNarrow ? QString() : text);
+    showIcons(true);
     if (rowWidth() > room)
         m_show->setText(QString());
+    showIcons(rowWidth() <= room);
     const bool isRow = rowWidth() <= room;
     if (!isRow && !m_isNarrow)
         m_show->setText(text);
+    if (!isRow)
+        showIcons(true);
     m_show->setToolTip(m_show->text().isEmpty() ? text : QString());
     m_buttonRow->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    // In a right-to-left window, the style does not centre the icon of a wider button.
+    for (QPushButton *button : {m_topUp, m_ask, m_show})
+        m_buttonRow->setAlignment(button, isRow ? Qt::Alignment() : Qt::AlignLeading);
 }
 
 void BalanceCard::resizeEvent(QResizeEvent *event)
@@ -221,13 +240,16 @@ void BalanceCard::showAge()
 {
     const bool isAsked = !m_view.entry.isNull();
     const qint64 days = isAsked ? m_view.entry.askedAt.date().daysTo(m_view.now.date()) : 0;
-    const QString asked = dashboardText(m_view.isOutdated ? "HOME_LAST_ASKED" : "HOME_ASKED");
-    m_asked->setText(isAsked ? asked.arg(whenText(m_view.entry.askedAt, m_view.now)) : QString());
+    m_asked->setText(
+        isAsked ? dashboardText("HOME_ASKED").arg(whenText(m_view.entry.askedAt, m_view.now))
+                : QString());
     m_age->setText(dashboardText("HOME_DAYS_OLD").arg(days));
     m_age->setVisible(days >= OLD_DAYS);
     m_low->setText(dashboardText("HOME_LOW"));
     m_low->setVisible(m_view.isLow);
-    m_chips->setVisible(m_view.isLow || days >= OLD_DAYS);
+    m_outdated->setText(dashboardText("HOME_OUTDATED"));
+    m_outdated->setVisible(isAsked && m_view.isOutdated);
+    m_chips->setVisible(m_view.isLow || days >= OLD_DAYS || m_outdated->isVisibleTo(m_chips));
     arrangeHead();
 }
 
@@ -263,6 +285,8 @@ void BalanceCard::describe()
     }
     if (m_view.isLow)
         parts << m_low->text();
+    if (m_outdated->isVisibleTo(m_chips))
+        parts << m_outdated->text();
     setAccessibleName(parts.join(QLatin1String(", ")));
     // The name stays the same while the seconds pass, so that screen readers do not read it again.
     setAccessibleDescription(m_view.askingSeconds >= 0 ? m_ask->text() : QString());

@@ -58,6 +58,7 @@ private:
     QWidget *makeButtons();
     int rowWidth() const;
     void arrangeHead();
+    void showIcons(bool areShown);
     void arrangeButtons();
     void showAmount();
     void showAge();
@@ -74,6 +75,7 @@ private:
     QBoxLayout *m_chipRow;
     Chip *m_age;
     Chip *m_low;
+    Chip *m_outdated;
     QLabel *m_amount;
     QLabel *m_unit;
     QLabel *m_reply;

@@ -38,6 +38,8 @@ ChainDialog::ChainDialog(const QString &walk, const std::function<bool(const QSt
     sent->setText(walk);
     sent->setTextFormat(Qt::PlainText);
     sent->setWordWrap(true);
+    if (layoutDirection() == Qt::RightToLeft) // the walk itself is shown from left to right
+        sent->setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
     connect(m_name, &QLineEdit::textChanged, this, &ChainDialog::look);
     QVBoxLayout *column = new QVBoxLayout(this);
     for (QWidget *widget : {static_cast<QWidget *>(sent), static_cast<QWidget *>(caption),

@@ -142,9 +142,9 @@ void FavouriteButton::paintCode(QPainter *painter)
     const QRect code(left, top + nameHeight, name.width(), codeHeight);
     painter->setFont(nameFont);
     painter->setPen(look.color(ink));
-    painter->drawText(QStyle::visualRect(layoutDirection(), rect(), name),
-                      Qt::AlignLeading | Qt::AlignVCenter,
-                      QFontMetrics(nameFont).elidedText(text(), Qt::ElideRight, name.width()));
+    painter->drawText(
+        QStyle::visualRect(layoutDirection(), rect(), name), Qt::AlignLeading | Qt::AlignVCenter,
+        QFontMetrics(nameFont).elidedText(isolatedWords(text()), Qt::ElideRight, name.width()));
     painter->setFont(codeFont);
     painter->setPen(look.color(isEnabled() ? Token::Text3 : Token::DisabledText));
     const QString shown = isolated(

@@ -90,6 +90,13 @@ void FindBar::setForm(Form form)
     m_rows->setDirection(form == Form::Narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
+/// Shows the current match again when the transcript has its new size.
+void FindBar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    QMetaObject::invokeMethod(this, &FindBar::scrollToMatch, Qt::QueuedConnection);
+}
+
 // ---- opening and closing -------------------------------------------------------------------
 
 void FindBar::open()
@@ -195,7 +202,7 @@ void FindBar::highlight()
 /// selected stays selected.
 void FindBar::scrollToMatch()
 {
-    if (m_matches.isEmpty())
+    if (m_matches.isEmpty() || !m_followed)
         return;
     const QRect match = m_followed->cursorRect(m_matches.at(m_current));
     const QRect visible = m_followed->viewport()->rect();

@@ -49,6 +49,7 @@ public slots:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QPushButton *addButton(const char *iconName, const char *objectName, void (FindBar::*slot)());

@@ -57,6 +57,10 @@ bool isMove(int key)
            key == Qt::Key_PageDown;
 }
 
+// In pixels, at 100 %.
+const int LEAST_WIDTH = 340;
+const int MARGIN = 8; // between the list and the edges of the window
+
 } // namespace
 
 HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, const Names &chains,
@@ -124,8 +128,7 @@ void HistoryPopup::popUp()
 {
     m_isRowChosen = false;
     m_completer->complete();
-    makeRoomForFooter();
-    m_view->setMinimumWidth(m_edit->width());
+    place();
     m_view->arrangeColumns();
 }
 
@@ -144,15 +147,26 @@ void HistoryPopup::onTextEdited(const QString &text)
         m_view->hide();
 }
 
-/// Increases the height by that of the footer, which the completer does not take into account.
-void HistoryPopup::makeRoomForFooter()
+/// Places the list. The completer ignores the footer when it computes the height, and takes the
+/// width of the field. If the field is too narrow for the names, the list uses the width of the
+/// window instead.
+void HistoryPopup::place()
 {
+    const QRect field(m_edit->mapToGlobal(QPoint()), m_edit->size());
+    const QRect window(m_edit->window()->mapToGlobal(QPoint()), m_edit->window()->size());
+    const int margin = px(MARGIN);
+    const int width = qMin(qMax(field.width(), px(LEAST_WIDTH)),
+                           qMax(field.width(), window.width() - 2 * margin));
+    const bool isMirrored = m_edit->layoutDirection() == Qt::RightToLeft;
+    const int start = isMirrored ? field.right() + 1 - width : field.left();
+    const int last = qMax(window.left() + margin, window.right() + 1 - margin - width);
     QRect place = m_view->geometry();
-    const bool isAbove = place.top() < m_edit->mapToGlobal(QPoint()).y();
-    if (isAbove)
+    if (place.top() < field.top())
         place.setTop(place.top() - m_view->footerHeight());
     else
         place.setBottom(place.bottom() + m_view->footerHeight());
+    place.setLeft(width > field.width() ? qBound(window.left() + margin, start, last) : start);
+    place.setWidth(width);
     m_view->setGeometry(place);
 }
 

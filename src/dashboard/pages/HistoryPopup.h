@@ -63,7 +63,7 @@ private:
     void addChains(const QString &start);
     void showFooter();
     bool moveToButton(int key);
-    void makeRoomForFooter();
+    void place();
     void popUp();
 
     CodeHistory *const m_history;

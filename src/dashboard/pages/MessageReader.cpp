@@ -58,8 +58,7 @@ void ChoiceButtons::setChoices(const QList<MenuChoice> &choices)
     m_buttons.clear();
     for (const MenuChoice &choice : choices) {
         QPushButton *button = makeButton("choice", this);
-        button->setText(isolated(choice.key) + QLatin1String("  ") +
-                        QString(choice.text).replace(QLatin1Char('&'), QLatin1String("&&")));
+        button->setText(choice.buttonText());
         button->setAccessibleName(choice.key + QLatin1String(", ") + choice.text);
         button->setToolTip(choice.text);
         const QString key = choice.key;

@@ -11,6 +11,7 @@
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "look/Controls.h"
+#include "look/Icons.h"
 #include "look/Look.h"
 #include "SecondsRing.h"
 #include "StateCard.h"
@@ -49,13 +50,6 @@ void installAccessible()
         return true;
     }();
     Q_UNUSED(isInstalled);
-}
-
-/// Returns the text on the button of a choice: its key and its description.
-QString choiceText(const MenuChoice &choice)
-{
-    const QString text = choice.key + QLatin1String("  ") + choice.text;
-    return QString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 const char *styleOf(Kind kind)
@@ -120,6 +114,7 @@ void StateStrip::makeEndButtons()
     setButtonIcon(m_history, "clock", Token::AccentText);
     setButtonIcon(m_cancel, "close", Token::Text);
     setButtonIcon(m_end, "stop", Token::Danger);
+    setButtonIcon(m_dismiss, "close", Token::AccentText);
     connect(m_history, &QPushButton::clicked, this, &StateStrip::historyRequested);
     connect(m_copy, &QPushButton::clicked, this, &StateStrip::copyRequested);
     connect(m_ownWindow, &QPushButton::clicked, this, &StateStrip::ownWindowRequested);
@@ -254,12 +249,12 @@ QString StateStrip::text() const
 
 void StateStrip::retranslate()
 {
-    m_history->setText(dashboardText("STRIP_HISTORY"));
+    setIconButtonText(m_history, dashboardText("STRIP_HISTORY"));
     setIconButtonText(m_ownWindow, dashboardText("STRIP_OWN_WINDOW"));
     setIconButtonText(m_copy, dashboardText("STRIP_COPY"));
     setIconButtonText(m_more, dashboardText("STRIP_MORE"));
     m_cancel->setText(dashboardText("STRIP_CANCEL"));
-    m_dismiss->setText(dashboardText("STRIP_DISMISS"));
+    setIconButtonText(m_dismiss, dashboardText("STRIP_DISMISS"));
     m_rowWidth = -1;
     update();
 }
@@ -334,11 +329,12 @@ void StateStrip::updateEndButtons()
     const bool isNarrow = m_form == Form::Narrow;
     m_copy->setVisible(!isBlockedNow && !isNarrow && !m_state.isPending());
     m_more->setVisible(!isBlockedNow && (isRest || (!isNarrow && !m_state.isPending())));
+    // In the narrow form, the title needs the room.
+    for (QPushButton *button : {m_history, m_dismiss})
+        button->setText(isNarrow ? QString() : button->accessibleName());
     m_end->setText(dashboardText(isNarrow ? "STRIP_END" : "STRIP_END_MENU"));
-    if (isNarrow)
-        m_end->setIcon(QIcon());
-    else
-        setButtonIcon(m_end, "stop", Token::Danger);
+    m_dismiss->setIcon(isNarrow ? icon("close", Token::AccentText) : QIcon());
+    m_end->setIcon(isNarrow ? QIcon() : icon("stop", Token::Danger));
 }
 
 /// Shows the menu with the actions for the transcript.
@@ -507,7 +503,7 @@ void StateStrip::addChoices()
 /// Adds a button for the choice. Elides its text if it is wider than `room` pixels.
 void StateStrip::addChoice(const MenuChoice &choice, int room)
 {
-    QPushButton *button = addButton("choice", choiceText(choice));
+    QPushButton *button = addButton("choice", choice.buttonText());
     button->setText(button->fontMetrics().elidedText(button->text(), Qt::ElideRight, room));
     button->setToolTip(choice.text);
     button->setObjectName(QLatin1String("Dashboard_Choice"));
@@ -524,7 +520,7 @@ void StateStrip::addMore(const QList<MenuChoice> &rest)
     QMenu *menu = new QMenu(more);
     for (const MenuChoice &choice : rest) {
         const QString key = choice.key;
-        menu->addAction(choiceText(choice), this, [this, key] { emit answered(key); });
+        menu->addAction(choice.buttonText(), this, [this, key] { emit answered(key); });
     }
     connect(more, &QPushButton::clicked, menu,
             [more, menu] { menu->popup(more->mapToGlobal(QPoint(0, more->height()))); });

@@ -1,5 +1,6 @@
 #include "MenuChoices.h"
 
+#include "base/Isolate.h"
 #include "MenuLines.h"
 
 namespace Dashboard
@@ -8,6 +9,12 @@ namespace Dashboard
 bool MenuChoice::operator==(const MenuChoice &other) const
 {
     return key == other.key && text == other.text;
+}
+
+QString MenuChoice::buttonText() const
+{
+    const QString words = QString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+    return isolated(key) + QLatin1String("  ") + isolatedWords(words);
 }
 
 QList<MenuChoice> menuChoices(const QString &menu)

@@ -24,10 +24,11 @@ struct Leg {
 };
 
 const Leg LEGS[] = {
-    {TourParts::walkPages, true},    {TourParts::walkStates, true},
-    {TourParts::walkWindows, true},  {TourParts::walkDevices, true},
-    {TourParts::walkGeneral, false}, {TourParts::walkAccount, false},
-    {TourParts::walkEditor, false},  {TourParts::walkServices, false},
+    {TourParts::walkPages, true},       {TourParts::walkStates, true},
+    {TourParts::walkWindows, true},     {TourParts::walkDevices, true},
+    {TourParts::walkGeneral, false},    {TourParts::walkAccount, false},
+    {TourParts::walkEditor, false},     {TourParts::walkServices, false},
+    {TourParts::walkSubscriber, false},
 };
 
 bool walk(TourGuide &guide, TourAlbum &album, const QString &language, bool isComplete)

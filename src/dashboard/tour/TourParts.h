@@ -17,6 +17,8 @@ namespace TourParts
 bool walkPages(TourGuide &guide);
 /// Visits the Codes page while a code is in flight and after its reply.
 bool walkStates(TourGuide &guide);
+/// Visits the states of the account, the chains, the search and the help for modems on 4G.
+bool walkSubscriber(TourGuide &guide);
 /// Visits each window of the plug-in once, in the light and the dark theme.
 bool walkWindows(TourGuide &guide);
 

@@ -12,13 +12,14 @@
 #include "plugin/ServiceList.h"
 #include "PluginFolderChoice.h"
 #include "sim/SimWindows.h"
-#include "UssdCode.h"
 
 namespace Dashboard
 {
 
 namespace
 {
+
+const char NUMBER[] = "%s"; // the placeholder for a number in a code
 
 QString historyFile(const AppController *controller)
 {
