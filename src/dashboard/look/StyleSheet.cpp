@@ -65,11 +65,9 @@ void fillInShade(QString *sheet, Shade shade)
 
 void fillInSides(QString *sheet, Qt::LayoutDirection direction)
 {
-    const QLatin1String left("left");
-    const QLatin1String right("right");
     const bool isMirrored = direction == Qt::RightToLeft;
-    sheet->replace(QLatin1String("@start@"), isMirrored ? right : left);
-    sheet->replace(QLatin1String("@end@"), isMirrored ? left : right);
+    sheet->replace(QLatin1String("@end@"),
+                   isMirrored ? QLatin1String("left") : QLatin1String("right"));
 }
 
 /// Replaces each "#14px" with the scaled size, and each "#14-1px" with the scaled size minus one
