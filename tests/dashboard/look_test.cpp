@@ -239,8 +239,9 @@ private slots:
         QVERIFY(sheet.size() > 1000);
         QVERIFY(!sheet.contains(QLatin1Char('@')));
         QVERIFY(!sheet.contains(QRegularExpression(QLatin1String("#[0-9-]+px"))));
-        const char *start = direction == Qt::LeftToRight ? "text-align: left" : "text-align: right";
-        QVERIFY(sheet.contains(QLatin1String(start)));
+        const char *end =
+            direction == Qt::LeftToRight ? "padding-right: 10px" : "padding-left: 10px";
+        QVERIFY(sheet.contains(QLatin1String(end)));
         QVERIFY(sheet.contains(QLatin1String("font-size: 36px"))); // the font size of h1
     }
 

@@ -64,11 +64,9 @@ void fillInShade(QString *sheet, Shade shade)
 
 void fillInSides(QString *sheet, Qt::LayoutDirection direction)
 {
-    const QLatin1String left("left");
-    const QLatin1String right("right");
     const bool isMirrored = direction == Qt::RightToLeft;
-    sheet->replace(QLatin1String("@start@"), isMirrored ? right : left);
-    sheet->replace(QLatin1String("@end@"), isMirrored ? left : right);
+    sheet->replace(QLatin1String("@end@"),
+                   isMirrored ? QLatin1String("left") : QLatin1String("right"));
 }
 
 /// Returns the number at the position, and moves the position to the character after the number.
