@@ -183,6 +183,7 @@ void HomePage::setMessage(const HomeMessage &message)
     m_message = message;
     m_messageRow->setVisible(message.id != 0 && isNormal());
     static_cast<ElidedLabel *>(m_messageTitle)->setText(isolatedWords(message.title));
+    m_messageTitle->setAccessibleName(message.title);
     m_messageNote->setText(message.note);
     m_messageButton->setText(dashboardText(message.waitsForAnswer ? "HOME_ANSWER" : "HOME_READ"));
     m_messageButton->setAccessibleDescription(message.title);

@@ -249,12 +249,12 @@ QString StateStrip::text() const
 
 void StateStrip::retranslate()
 {
-    setIconButtonText(m_history, dashboardText("STRIP_HISTORY"));
+    m_history->setAccessibleName(dashboardText("STRIP_HISTORY"));
     setIconButtonText(m_ownWindow, dashboardText("STRIP_OWN_WINDOW"));
     setIconButtonText(m_copy, dashboardText("STRIP_COPY"));
     setIconButtonText(m_more, dashboardText("STRIP_MORE"));
     m_cancel->setText(dashboardText("STRIP_CANCEL"));
-    setIconButtonText(m_dismiss, dashboardText("STRIP_DISMISS"));
+    m_dismiss->setAccessibleName(dashboardText("STRIP_DISMISS"));
     m_rowWidth = -1;
     update();
 }
@@ -330,8 +330,10 @@ void StateStrip::updateEndButtons()
     m_copy->setVisible(!isBlockedNow && !isNarrow && !m_state.isPending());
     m_more->setVisible(!isBlockedNow && (isRest || (!isNarrow && !m_state.isPending())));
     // In the narrow form, the title needs the room.
-    for (QPushButton *button : {m_history, m_dismiss})
+    for (QPushButton *button : {m_history, m_dismiss}) {
         button->setText(isNarrow ? QString() : button->accessibleName());
+        button->setToolTip(isNarrow ? button->accessibleName() : QString());
+    }
     m_end->setText(dashboardText(isNarrow ? "STRIP_END" : "STRIP_END_MENU"));
     m_dismiss->setIcon(isNarrow ? icon("close", Token::AccentText) : QIcon());
     m_end->setIcon(isNarrow ? QIcon() : icon("stop", Token::Danger));
