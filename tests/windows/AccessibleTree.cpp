@@ -154,11 +154,19 @@ Accessible AccessibleTree::read(const QString &service, const QString &path) con
     return object;
 }
 
+/// Returns true for a hidden item view. Qt 5 reports it as visible, but with an empty rectangle.
+bool AccessibleTree::isHiddenView(const Accessible &object) const
+{
+    const bool isView =
+        object.role == text("list") || object.role == text("table") || object.role == text("tree");
+    return isView && place(object).isEmpty();
+}
+
 void AccessibleTree::addVisible(QList<Accessible> &list, const QString &service,
                                 const QString &path) const
 {
     const Accessible object = read(service, path);
-    if (!object.isShown())
+    if (!object.isShown() || isHiddenView(object))
         return;
     if (!object.isSilent())
         list << object;

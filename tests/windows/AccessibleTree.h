@@ -74,6 +74,7 @@ private slots:
 private:
     Accessible read(const QString &service, const QString &path) const;
     QList<QPair<QString, QString>> children(const QString &service, const QString &path) const;
+    bool isHiddenView(const Accessible &object) const;
     void addVisible(QList<Accessible> &list, const QString &service, const QString &path) const;
     QVariant property(const Accessible &object, const char *interface, const char *name) const;
     QDBusMessage call(const QString &service, const QString &path, const char *interface,
