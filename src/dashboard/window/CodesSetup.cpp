@@ -39,7 +39,7 @@ QStringList templatesInUse()
 /// Returns the code with an ellipsis instead of the placeholder for a number.
 QString shownCode(QString code)
 {
-    return code.replace(Formats::INPUT_PLACEHOLDER, QString(HIDDEN_DIGITS));
+    return code.replace(QLatin1String(NUMBER), QString(HIDDEN_DIGITS));
 }
 
 QList<NamedCode> codesInUse()
