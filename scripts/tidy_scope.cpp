@@ -1,7 +1,7 @@
 // A plug-in for clang-tidy that excludes the headers of the system, which scripts/tidy.sh builds.
 // clang-tidy 14 searches the declarations of all headers, and then discards the diagnostics for
-// those of the system, most of which belong to Qt. Excluding these headers from the search halves the
-// time, and does not change the diagnostics.
+// those of the system, most of which belong to Qt. Excluding these headers from the search halves
+// the time, and does not change the diagnostics.
 #include <clang/AST/ASTConsumer.h>
 #include <clang/AST/ASTContext.h>
 #include <clang/Frontend/FrontendPluginRegistry.h>

@@ -66,8 +66,8 @@ struct CodeFiles {
     static CodeFiles inUse();
 };
 
-/// Returns all named codes and all codes of the account windows. They may contain a placeholder for a
-/// number.
+/// Returns all named codes and all codes of the account windows. They may contain a placeholder for
+/// a number.
 QStringList readTemplates(const CodeFiles &files);
 
 /// Reads the codes from the files. The configuration of the account window for this type of

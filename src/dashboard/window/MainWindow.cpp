@@ -141,10 +141,6 @@ void MainWindow::followBanners()
     connect(m_chooser, &OperatorChooser::problem, this, &MainWindow::showProblem);
     connect(m_chooser, &OperatorChooser::changed, this, &MainWindow::showDevice);
     connect(m_chooser, &OperatorChooser::remedyRequested, this, &MainWindow::perform);
-    connect(m_codes, &CodesSetup::savedWithoutButton, this, [this](const QStringList &names) {
-        m_saved = names;
-        showBanners();
-    });
 }
 
 void MainWindow::followRemedies()
@@ -437,7 +433,7 @@ void MainWindow::showSavedCodes()
 {
     m_saved.clear();
     showBanners();
-    m_codes->showNewCodes();
+    codes().showNewCodes();
 }
 
 void MainWindow::onBannerAction(Banners::Kind kind)

@@ -79,6 +79,10 @@ Page *MainWindow::makeCodes()
     m_codes = new CodesSetup(&m_controller, this, &m_home->favourites(), m_stack, this);
     for (QAction *action : m_codes->page()->shortcuts())
         addAction(action);
+    connect(m_codes, &CodesSetup::savedWithoutButton, this, [this](const QStringList &names) {
+        m_saved = names;
+        showBanners();
+    });
     return m_codes->page();
 }
 
