@@ -149,6 +149,7 @@ private slots:
     void theKeyOfASimDoesNotTellIt();
     void entriesAreExported();
     void anExportThatFailsKeepsTheOldFile();
+    void anExportReportsADamagedDatabase();
     void theDemonstrationIsFilled();
 
 private:
@@ -230,6 +231,7 @@ void AccountStoreTest::textsKeepAmountsAndDates_data()
     same("Balance 1 234 567 FCFA");
     same("Balance: 12500000 VND");
     same("Balance: Rp 12500000");
+    same("Balance: 1.234.567,89 on 01.02.03 at 10.15.30");
     same("Balance: 12500000 US dollars");
     same("1.8 GB of 2 GB, 300 SMS, 120 min");
     row("number", QLatin1String("Call +999 55 0123456 now"),
@@ -237,6 +239,10 @@ void AccountStoreTest::textsKeepAmountsAndDates_data()
     row("national", QLatin1String("0550123456"), dots + QLatin1String("3456"));
     row("voucher", QLatin1String("PIN 1234-5678-9012-3456."),
         QLatin1String("PIN ") + dots + QLatin1String("3456."));
+    row("points", QLatin1String("Call 06.12.34.56.78."),
+        QLatin1String("Call ") + dots + QLatin1String("5678."));
+    row("voucher with points", QLatin1String("PIN 1234.5678.9012"),
+        QLatin1String("PIN ") + dots + QLatin1String("9012"));
     row("arabic", QString::fromUtf8("رقمك ٠٥٥٠١٢٣٤٥٦"),
         QString::fromUtf8("رقمك ") + dots + QString::fromUtf8("٣٤٥٦"));
 }
@@ -460,6 +466,19 @@ void AccountStoreTest::anExportThatFailsKeepsTheOldFile()
                 .contains(QLatin1String(".csv or .json")));
     QVERIFY(
         !exportAccountTo(QLatin1String("/nonexistent/a.csv"), QLatin1String("/none")).isEmpty());
+}
+
+// Otherwise, the exported file would be empty and look as if there had been no entries.
+void AccountStoreTest::anExportReportsADamagedDatabase()
+{
+    QVERIFY(QDir().mkpath(m_folder));
+    QFile database(m_file);
+    QVERIFY(database.open(QIODevice::WriteOnly));
+    database.write(QByteArray("This is no database. ").repeated(500));
+    database.close();
+    const QString file = folder() + QLatin1String("/a.csv");
+    QVERIFY(exportAccountTo(file, m_file).contains(QLatin1String(".damaged-")));
+    QVERIFY(!QFile::exists(file));
 }
 
 void AccountStoreTest::theDemonstrationIsFilled()

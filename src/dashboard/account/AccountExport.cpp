@@ -116,6 +116,9 @@ QString exportAccountTo(const QString &file, const QString &database)
         entries.forEach(QString(), [&collector](const QString &sim, const AccountEntry &entry) {
             return collector.add(sim, entry);
         });
+    const QString damaged = entries.takeDamagedFile();
+    if (!damaged.isEmpty())
+        return dashboardText("ACCOUNT_DAMAGED").arg(damaged);
     if (!isRead)
         return dashboardText("ACCOUNT_NOT_READ").arg(database);
     const QString error = writePrivateFile(file, collector.content());
