@@ -149,6 +149,8 @@ void SettingsTest::theDefaultsAreCareful()
     QVERIFY(settings.hidesSimNumber());
     QVERIFY(settings.keepsHistory());
     QVERIFY(!settings.isFirstRunDone());
+    QVERIFY(!settings.detectsPaidType());
+    QVERIFY(!settings.asksDaily());
 }
 
 void SettingsTest::everySettingIsRemembered()
@@ -190,7 +192,7 @@ void SettingsTest::aBadValueIsTheDefault()
     QByteArray lines;
     for (const char *key :
          {"theme", "text-size", "reduce-motion", "notify-messages", "show-text-in-notifications",
-          "hide-sim-number", "keep-history", "first-run-done"})
+          "hide-sim-number", "keep-history", "first-run-done", "detect-paid-type", "ask-daily"})
         lines += key + QByteArray("=") + value + "\n";
     writeSettings(lines);
     theDefaultsAreCareful();

@@ -115,7 +115,7 @@ void DashboardSettings::setOperatorCodes(const QString &homeNetwork, const QStri
 
 bool DashboardSettings::detectsPaidType() const
 {
-    return m_settings.value(QLatin1String(DETECTS_PAID_TYPE)).toBool();
+    return flag(DETECTS_PAID_TYPE, false);
 }
 
 void DashboardSettings::setDetectsPaidType(bool detects)
