@@ -18,11 +18,14 @@ const qint64 BLOCK_SIZE = qint64(64) * 1024;
 const char DECLARES_ENTITIES[] = "The document declares entities, which are not supported.";
 const char ODD_ENCODING[] = "The encoding of the document is not supported.";
 
-// Prefixes of the encodings in which an ASCII character is always represented by its own code. In
-// other encodings, such as UTF-7 and ISO-2022-JP, an entity declaration may consist of other bytes.
-const char *const ENCODINGS[] = {"utf-8",       "utf-16", "utf-32",   "us-ascii", "iso-8859-",
-                                 "windows-125", "koi8-",  "gb2312",   "gbk",      "gb18030",
-                                 "big5",        "euc-",   "shift_jis"};
+// Prefixes of the encodings in which an ASCII character is always represented by its own code,
+// without hyphens and underscores. In other encodings, such as UTF-7 and ISO-2022-JP, an entity
+// declaration may consist of other bytes.
+const char *const ENCODINGS[] = {"utf8",      "utf16",   "utf32",    "ucs2",  "iso10646ucs2",
+                                 "usascii",   "ascii",   "iso8859",  "latin", "cp125",
+                                 "cp866",     "windows", "ibm866",   "koi8",  "tis620",
+                                 "macintosh", "gb2312",  "gbk",      "cp936", "gb18030",
+                                 "big5",      "euc",     "shiftjis", "sjis",  "xsjis"};
 
 /// Reports an undeclared entity as an error. By default, the parser skips the entity, which could
 /// change a USSD code into a different one.
@@ -38,13 +41,15 @@ QByteArray withoutZeros(QByteArray bytes)
     return bytes.replace('\0', "");
 }
 
-/// Returns the name of the encoding in lower case. An XML declaration without a name means UTF-8.
+/// Returns the name of the encoding in lower case, without hyphens and underscores, which Qt
+/// ignores. An XML declaration without a name means UTF-8.
 QByteArray encodingIn(const QByteArray &xmlDeclaration)
 {
     const int attribute = int(xmlDeclaration.indexOf("encoding"));
     if (attribute < 0)
         return ENCODINGS[0];
-    return xmlDeclaration.mid(attribute).replace('\'', '"').split('"').value(1).toLower();
+    const QByteArray name = xmlDeclaration.mid(attribute).replace('\'', '"').split('"').value(1);
+    return name.toLower().replace('-', "").replace('_', "");
 }
 
 /// Returns true if the encoding does not hide entity declarations. `start` contains the first bytes

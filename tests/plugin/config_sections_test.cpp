@@ -294,6 +294,8 @@ void ConfigSectionsTest::encodings_data()
     QTest::newRow("UTF-8") << QByteArray("<?xml version='1.0' encoding='UTF-8'?>") << true;
     QTest::newRow("Latin-9") << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-15\"?>")
                              << true;
+    for (const char *name : {"utf8", "latin1", "cp1251", "ISO_8859-1"})
+        QTest::newRow(name) << QByteArray("<?xml version='1.0' encoding='") + name + "'?>" << true;
     QTest::newRow("UTF-7") << QByteArray("<?xml version='1.0' encoding='UTF-7'?>"
                                          "<!DOCTYPE a [<!ENT+AEk-TY b 'c'>]>")
                            << false;
