@@ -20,6 +20,7 @@
 #include "Languages.h"
 #include "look/Controls.h"
 #include "look/Look.h"
+#include "pages/SettingsPage.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
@@ -57,6 +58,7 @@ private slots:
     void theFormDependsOnTheWidthInEm();
     void aChangeOfFormKeepsThePagesAndTheFocus();
     void aPageIsConstructedWhenItIsNeeded();
+    void aPageIsConstructedOnceBeforeThePluginIsLoaded();
     void aPageConstructedLaterIsUpToDate();
     void nothingIsCutAtAnyWidth_data();
     void nothingIsCutAtAnyWidth();
@@ -186,6 +188,15 @@ void ShellTest::aPageIsConstructedWhenItIsNeeded()
     m_window->showPage(PageId::Settings);
     QVERIFY(part<QWidget>("Dashboard_SettingsPage")->isVisible());
     QVERIFY(!part<QWidget>("Dashboard_MessagesPage"));
+}
+
+// Tests that constructing a page does not construct another one that requires the first one.
+void ShellTest::aPageIsConstructedOnceBeforeThePluginIsLoaded()
+{
+    m_plugin.reset(new LoadedPlugin);
+    m_window.reset(new MainWindow(m_plugin.data(), m_settings.data()));
+    m_window->showPage(PageId::Settings);
+    QCOMPARE(m_window->findChildren<SettingsPage *>().size(), 1);
 }
 
 // Tests that a new page has the current language, services, situation and form.

@@ -145,8 +145,10 @@ void CodesSetup::reportNewCodes()
 void CodesSetup::readCodes()
 {
     m_known.clear();
-    for (const NamedCode &named : codesInUse())
-        m_known << named.code;
+    for (const NamedCode &named : codesInUse()) {
+        if (named.isOwn)
+            m_known << named.code;
+    }
     const QStringList templates = templatesInUse();
     m_controller->monitor().setTemplates(templates);
     m_history.setTemplates(templates);

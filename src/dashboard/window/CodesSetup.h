@@ -62,7 +62,7 @@ private:
     WalkWatcher m_walks;
     CodesPage *m_page;
     bool m_isOffered = false;
-    QStringList m_known; // the codes with names when they were last read
+    QStringList m_known; // the user's codes when they were last read
     QStringList m_new;   // codes that the user has just saved
     QString m_reported;  // the first code without a button, as the list of codes shows it
 };

@@ -49,6 +49,8 @@ void DeviceMenu::offer(const DeviceChoice &choice, const QList<Modem> &modems)
 {
     m_choice = choice;
     m_modems = modems;
+    if (!isEmpty() && !isVisible())
+        fill();
 }
 
 void DeviceMenu::retranslate()

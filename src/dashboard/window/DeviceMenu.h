@@ -21,15 +21,16 @@ class DeviceMenu : public QMenu
 public:
     explicit DeviceMenu(QWidget *parent = nullptr);
 
-    /// Sets the current choice and the modems to list. The change takes effect when the user opens
-    /// the menu again, so that menu items do not move under the mouse pointer.
+    /// Sets the current choice and the modems to list. If the menu is open, the change takes effect
+    /// when the user opens the menu again, so that menu items do not move under the mouse pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
 
 public slots:
     /// Updates the title after a language change.
     void retranslate();
-    /// Creates the menu items. Called before the menu is shown.
+    /// Creates the menu items. Called automatically before the menu is shown. Must be called
+    /// earlier if the size of the menu is needed, for example by a button that opens it.
     void fill();
 
 signals:

@@ -101,6 +101,7 @@ Page *MainWindow::makeMessages()
 
 Page *MainWindow::makeSettings()
 {
+    deviceMenu()->fill(); // a button of the page computes the position from the size of the menu
     m_settingsPage = new SettingsPage(
         {m_settings, &device(), &operatorCodes(), deviceMenu(), m_menu->languageMenu()}, m_stack);
     followSettings();
@@ -127,7 +128,10 @@ void MainWindow::followSettings()
     connect(m_settingsPage, &SettingsPage::hidingChanged, m_header, &Header::setHidesNumber);
     connect(m_settingsPage, &SettingsPage::changed, m_home, &HomeSetup::followSim);
     connect(m_settingsPage, &SettingsPage::keepingChanged, m_home, &HomeSetup::followSim);
-    connect(m_settingsPage, &SettingsPage::keepingChanged, &codes(), &CodesSetup::followSettings);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, this, [this] {
+        if (m_codes)
+            m_codes->followSettings();
+    });
     connect(m_settingsPage, &SettingsPage::keepingChanged, &m_messages->center(),
             &MessageCenter::look);
     connect(m_settingsPage, &SettingsPage::deleteAllRequested, this, &MainWindow::deleteAll);

@@ -30,6 +30,10 @@ MessageParts::MessageParts(AppController *controller, QWidget *window)
         if (controller->monitor().state().kind != CommandState::Kind::MenuOpen)
             m_store.endWaiting();
     });
+    connect(&controller->monitor(), &CommandMonitor::changed, this, [this] {
+        if (!m_question && m_controller->monitor().state().kind == CommandState::Kind::MenuOpen)
+            showQuestion();
+    });
     connect(controller, &AppController::frameOpened, this, &MessageParts::showQuestion);
     connect(controller, &AppController::frameClosed, this, &MessageParts::showQuestion);
     connect(&m_store, &MessageStore::problem, controller, &AppController::problem);

@@ -37,7 +37,7 @@ private:
     MessageStore m_store;
     DesktopNotifier m_notifier;
     MessageCenter m_center;
-    QuestionDialog *m_question = nullptr; // null until a frame has been opened
+    QuestionDialog *m_question = nullptr; // null until a frame or a menu has been opened
 };
 
 } // namespace Dashboard
