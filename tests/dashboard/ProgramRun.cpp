@@ -10,7 +10,7 @@ const char DEMONSTRATION[] = "Demonstration: the network is invented; nothing is
 Run finished(QProcess &process)
 {
     Run result;
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(100000) || process.exitStatus() != QProcess::NormalExit)
         return result;
     result.code = process.exitCode();
     result.out = QString::fromUtf8(process.readAllStandardOutput());

@@ -273,7 +273,7 @@ void CodesPageTest::theHistoryFitsTheNarrowWindow()
         codes().openHistory();
         const QRect window(codes().mapToGlobal(QPoint()), codes().size());
         QVERIFY(window.adjusted(8, 0, -8, 0).contains(list()->geometry()));
-        QVERIFY(list()->width() > 330);
+        QVERIFY(list()->width() > Look::instance().px(330));
         list()->hide();
     }
 }
