@@ -272,7 +272,8 @@ void CodesPageTest::theHistoryFitsTheNarrowWindow()
         settle();
         codes().openHistory();
         const QRect window(codes().mapToGlobal(QPoint()), codes().size());
-        QVERIFY(window.adjusted(8, 0, -8, 0).contains(list()->geometry()));
+        const int margin = Look::instance().px(8);
+        QVERIFY(window.adjusted(margin, 0, -margin, 0).contains(list()->geometry()));
         QVERIFY(list()->width() > Look::instance().px(330));
         list()->hide();
     }

@@ -50,8 +50,10 @@ void colorLinksAgain()
 {
     for (QWidget *widget : QApplication::allWidgets()) {
         QLabel *label = qobject_cast<QLabel *>(widget);
-        const QString text = label ? label->text() : QString();
-        if (!text.contains(QLatin1String("<a ")) || label->textFormat() == Qt::PlainText)
+        if (!label || label->textFormat() == Qt::PlainText)
+            continue;
+        const QString text = label->text();
+        if (!text.contains(QLatin1String("<a ")))
             continue;
         label->clear();
         label->setText(text);

@@ -29,7 +29,7 @@ QString asMenuText(QString name)
 /// has selected it.
 QString nameOf(const QString &file, const QStringList &shipped)
 {
-    const QString name = Scenarios::displayName(file);
+    QString name = Scenarios::displayName(file);
     for (const auto &known : NETWORKS) {
         if (name == QLatin1String(known.name) && shipped.contains(file))
             return dashboardText(known.textKey);
