@@ -1,11 +1,11 @@
 # Functions that add tests. Each test runs without a display, with its own home directory, settings
 # and user data folder, in a fixed language, and with a time limit.
 #
-#   ussd_add_test(NAME SOURCES... [LIBRARIES...] [LABELS...] [ENVIRONMENT...] [FAKE_SDK])
+#   ussd_add_test(NAME SOURCES... [LIBRARIES...] [LABELS...] [ENVIRONMENT...] [FAKE_SDK] [GLIB])
 #   ussd_start_first(NAME...)      starts these long tests first, to shorten the total time
 #
 # With FAKE_SDK, the library path selects the fake device SDK from tests/fakes instead of the real
-# device SDK.
+# device SDK. GLIB is required if a source file includes headers of GLib.
 
 set(USSD_TEST_SECONDS 120)
 
@@ -41,10 +41,38 @@ endfunction()
 # takes a third of the time that the compiler's default linker takes for the other programs.
 function(ussd_set_up_test_program name)
     ussd_set_up(${name})
-    set_target_properties(${name} PROPERTIES CXX_STANDARD 17 AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY
-                                                                        ${PROJECT_BINARY_DIR}/tests/bin)
+    set_target_properties(${name} PROPERTIES CXX_STANDARD 17 RUNTIME_OUTPUT_DIRECTORY
+                                                             ${PROJECT_BINARY_DIR}/tests/bin)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_link_options(${name} PRIVATE -fuse-ld=gold)
+    endif()
+endfunction()
+
+# Generates NAME_test.moc for each source file NAME_test.cpp. AUTOMOC would start another program
+# and compile another file for each test, which takes longer than compiling the test.
+function(ussd_run_moc name)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${name}_moc)
+    foreach(source IN LISTS ARGN)
+        if(source MATCHES "([a-z_]+_test)\\.cpp$")
+            set(output ${folder}/${CMAKE_MATCH_1}.moc)
+            file(MAKE_DIRECTORY ${folder})
+            qt_generate_moc(${source} ${output} TARGET ${name})
+            target_sources(${name} PRIVATE ${output})
+            target_include_directories(${name} PRIVATE ${folder})
+        endif()
+    endforeach()
+endfunction()
+
+# Sets ${result} to the precompiled headers that match the libraries of the test, or to nothing.
+function(ussd_precompiled_headers_of_test result glib)
+    if(glib)
+        set(${result} glib_tests PARENT_SCOPE)
+    elseif("ussd_testsupport" IN_LIST ARGN OR "ussd_plugintest" IN_LIST ARGN)
+        set(${result} tests PARENT_SCOPE)
+    elseif("ussd::qttest" IN_LIST ARGN)
+        set(${result} plain_tests PARENT_SCOPE)
+    else()
+        set(${result} "" PARENT_SCOPE)
     endif()
 endfunction()
 
@@ -61,12 +89,14 @@ function(ussd_add_to_labels name)
 endfunction()
 
 function(ussd_add_test name)
-    cmake_parse_arguments(arg "FAKE_SDK" "" "SOURCES;LIBRARIES;LABELS;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(arg "FAKE_SDK;GLIB" "" "SOURCES;LIBRARIES;LABELS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     ussd_set_up_test_program(${name})
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
-    if("ussd_testsupport" IN_LIST arg_LIBRARIES OR "ussd_plugintest" IN_LIST arg_LIBRARIES)
-        ussd_use_precompiled_headers(${name} tests)
+    ussd_run_moc(${name} ${arg_SOURCES})
+    ussd_precompiled_headers_of_test(kind "${arg_GLIB}" ${arg_LIBRARIES})
+    if(kind)
+        ussd_use_precompiled_headers(${name} ${kind})
     endif()
     ussd_add_to_labels(${name} ${arg_LABELS})
     add_test(NAME ${name} COMMAND ${name})

@@ -85,4 +85,4 @@ int main(int argc, char **argv)
     return 0;
 }
 
-#include "open_window.moc"
+#include "open_window_test.moc"
