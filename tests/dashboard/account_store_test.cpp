@@ -293,7 +293,7 @@ void AccountStoreTest::anOutdatedBalanceIsRemembered()
     store.setSim(sim(), AccountStore::Keeping::InFile);
     now = day(0).addMonths(13);
     store.add(balance("9.00", 400));
-    QVERIFY(!store.isOutdated()); // its time is over, like that of the entry
+    QVERIFY(!store.isOutdated()); // the record has expired, like the entry
     store.setOutdated(true);
     store.removeAll();
     QVERIFY(!store.isOutdated());
@@ -468,7 +468,8 @@ void AccountStoreTest::anExportThatFailsKeepsTheOldFile()
         !exportAccountTo(QLatin1String("/nonexistent/a.csv"), QLatin1String("/none")).isEmpty());
 }
 
-// Otherwise, the exported file would be empty and look as if there had been no entries.
+// Tests that an export fails if the database is damaged. Otherwise, the exported file would be
+// empty and look as if there had been no entries.
 void AccountStoreTest::anExportReportsADamagedDatabase()
 {
     QVERIFY(QDir().mkpath(m_folder));

@@ -217,7 +217,7 @@ void HomePageTest::aBalanceThatMayHaveChangedSaysSo()
     QVERIFY(chip->isVisible());
     QCOMPARE(m_page->findChild<QPushButton *>(QLatin1String("Dashboard_AskButton"))->text(),
              QLatin1String("Ask again"));
-    QVERIFY(m_actions.done.isEmpty()); // nothing is sent by itself
+    QVERIFY(m_actions.done.isEmpty()); // the page does not send anything automatically
     record("*100#", "Balance: 2.50 EUR");
     drainEvents();
     QVERIFY(!chip->isVisible());

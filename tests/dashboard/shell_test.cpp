@@ -179,7 +179,8 @@ void ShellTest::aChangeOfFormKeepsThePagesAndTheFocus()
     }
 }
 
-// Otherwise, hidden pages would cost most of the start time.
+// Tests that a page is not constructed before it is needed. Otherwise, the hidden pages would take
+// up most of the start time.
 void ShellTest::aPageIsConstructedWhenItIsNeeded()
 {
     for (const char *name : {"Dashboard_ServicesPage", "Dashboard_MessagesPage",

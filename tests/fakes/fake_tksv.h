@@ -161,8 +161,8 @@ FAKE_API void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems);
 /// TKSV_Device_CancelRequest changes this result.
 FAKE_API void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure);
 
-/// Sets what TKSV_Device_GetModes returns. The `path` of a recorded call of TKSV_Device_SetModes is
-/// the setting, such as "7,0".
+/// Sets the result of TKSV_Device_GetModes. In a recorded call of TKSV_Device_SetModes, `path`
+/// contains the requested setting, such as "7,0".
 FAKE_API void fakeSdkSetModes(const TKSV_ModesInfo &modes);
 
 /// Sends a network-initiated message from the device's thread. The message is lost if no call-back

@@ -561,7 +561,7 @@ void StateStrip::addReason()
     m_rowLayout->addWidget(reason);
 }
 
-/// Adds the button that keeps the walk. It precedes the most recently sent codes.
+/// Adds the button that stores the walk as a chain. It precedes the most recently sent codes.
 void StateStrip::addKeep()
 {
     if (!m_isKeepOffered)

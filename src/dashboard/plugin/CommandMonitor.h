@@ -167,7 +167,7 @@ private:
     // Request numbers; see TKSV_SessionInfo.
     unsigned long m_pendingRequest = 0; // valid if the state is Waiting or Queued
     unsigned long m_ownRequest = 0;     // the most recent request of a general window
-    unsigned long m_givenUp = 0;        // the request that the plug-in has given up
+    unsigned long m_givenUp = 0;        // the request that is treated as timed out
     unsigned long m_firstQuery = 0;     // the first request of the query; 0 if there was no query
     unsigned long m_lastQuery = 0;
     QStringList m_recent;
