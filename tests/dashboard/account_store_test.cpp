@@ -27,7 +27,7 @@ namespace
 const char SIM[] = "sim";
 const int KILLS = 40;
 const int MOST_ENTRIES = 4;       // entries that a writer adds before it is killed
-const int LONGEST_REST = 8000000; // ns between the last of these entries and the kill
+const int LONGEST_REST = 8000000; // maximum time in ns between the last entry and the kill
 
 QString sim()
 {

@@ -321,7 +321,7 @@ void HomePageTest::favouritesSendTheirCode()
 {
     open();
     const QList<FavouriteButton *> buttons = m_page->findChildren<FavouriteButton *>();
-    QCOMPARE(buttons.size(), 6); // five codes and "Add"
+    QCOMPARE(buttons.size(), 6); // five codes and the "Add" button
     buttons.at(1)->click();
     QCOMPARE(m_actions.done, QStringList(QLatin1String("send *104#")));
     QCOMPARE(buttons.at(1)->accessibleDescription(), QLatin1String("*104#"));

@@ -97,7 +97,7 @@ QWidget *MessagesPage::makeList()
     setSpacing(column, 10);
     column->addWidget(m_search);
     column->addWidget(makeFilters());
-    column->addWidget(m_empty, 1); // so that the filters do not move
+    column->addWidget(m_empty, 1); // stretched, so that the filters do not move
     column->addWidget(m_list, 1);
     return m_listSide;
 }

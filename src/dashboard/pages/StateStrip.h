@@ -25,7 +25,7 @@ class SecondsRing;
 struct CodeName {
     QString code;       // without numbers and PINs; see codeWithoutNumbers()
     QString name;       // may be empty
-    bool isOwn = false; // one of the user's own codes
+    bool isOwn = false; // true if this is one of the user's own codes
 };
 
 /**

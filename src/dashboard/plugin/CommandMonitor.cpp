@@ -20,7 +20,7 @@ namespace
 {
 
 const int TICK = 1000;         // ms
-const int MOST_RECENT = 50;    // codes
+const int MOST_RECENT = 50;    // the maximum number of codes that recent() returns
 const int GIVE_UP_SECONDS = 2; // added to the plug-in's time-out, if the plug-in cannot report it
 
 qint64 systemClock()

@@ -162,7 +162,7 @@ private:
     QString m_menu;                  // the newest message that requires an answer
     bool m_hasNewMenu = false;       // true if the state does not contain m_menu yet
     TKSV_FailureInfo m_failure = {}; // valid if the state is Failed or Cancelled
-    qint64 m_start = 0;              // when the pending command was sent
+    qint64 m_start = 0;              // the time at which the pending command was sent
     bool m_isTranscriptChanged = false;
     // Request numbers; see TKSV_SessionInfo.
     unsigned long m_pendingRequest = 0; // valid if the state is Waiting or Queued
