@@ -191,7 +191,8 @@ void ShellTest::aPageIsConstructedWhenItIsNeeded()
     QVERIFY(!part<QWidget>("Dashboard_MessagesPage"));
 }
 
-// Tests that constructing a page does not construct another one that requires the first one.
+// Tests that the Settings page is constructed only once, although its construction also constructs
+// the Codes page.
 void ShellTest::aPageIsConstructedOnceBeforeThePluginIsLoaded()
 {
     m_plugin.reset(new LoadedPlugin);

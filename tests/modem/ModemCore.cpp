@@ -32,8 +32,8 @@ ModemCore::ModemCore(LoopThread &thread, const std::string &port, ModemSettings 
 
 /* ---- the network ------------------------------------------------------------------------- */
 
-/// A locked SIM card is handled by the modem itself. The network is therefore started in the
-/// registered state.
+/// Starts the network of the scenario. If the SIM card is locked, the network starts in the
+/// registered state, because the modem itself implements the lock.
 void ModemCore::useNetwork(Tksv::Scenario scenario)
 {
     SimData sim = m_settings.sim;

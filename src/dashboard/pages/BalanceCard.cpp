@@ -153,7 +153,7 @@ int BalanceCard::rowWidth() const
     return width - m_buttonRow->spacing();
 }
 
-/// The icons of the two buttons with texts are only decoration.
+/// Shows or hides the icons of the "top up" and "ask again" buttons, which are only decoration.
 void BalanceCard::showIcons(bool areShown)
 {
     if (areShown == !m_ask->icon().isNull())

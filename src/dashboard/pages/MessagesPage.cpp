@@ -222,7 +222,8 @@ QModelIndex MessagesPage::chosen() const
     return m_list->selectionModel()->selectedIndexes().value(0);
 }
 
-/// In the narrow form, selecting a row with the arrow keys does not open the message.
+/// Shows the selected message. In the narrow form, selecting a row with the arrow keys does not
+/// open the message.
 void MessagesPage::onChosen()
 {
     if (m_form == Form::Narrow)

@@ -150,8 +150,8 @@ void StateStrip::makeRows()
     setForm(m_form);
 }
 
-/// The height depends only on the font. The heights of the rows are also fixed, so that their
-/// content does not move the widgets below the strip.
+/// Sets the height of the strip, which depends only on the font. The heights of the rows are also
+/// fixed, so that their content does not move the widgets below the strip.
 void StateStrip::updateHeight()
 {
     setFixedHeight(px(HEIGHT));

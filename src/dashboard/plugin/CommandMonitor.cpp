@@ -308,7 +308,8 @@ TKSV_FailureInfo CommandMonitor::outcome() const
     return failure;
 }
 
-// The first command of the query may already have been sent, but m_session is not updated yet.
+// Records which requests belong to the query. The first of them may already have been sent, but
+// m_session is not updated yet.
 void CommandMonitor::setQuerying(bool isQuerying)
 {
     if (isQuerying)
