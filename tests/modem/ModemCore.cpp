@@ -105,7 +105,7 @@ void ModemCore::networkLost(int event)
     m_news.plugChanged(event == TKSV_DEV_EVENT_RESET ? PlugChange::Reset : PlugChange::Gone);
 }
 
-/// Sends changes of the registration and the signal as unsolicited lines. AT commands cannot report
+/// Sends changes in the registration and the signal as unsolicited lines. AT commands cannot report
 /// that only SMS is unavailable, so the modem loses its registration instead.
 void ModemCore::networkChanged()
 {

@@ -40,7 +40,7 @@ struct ModemSettings {
 /** The value of +WS46 for a modem that may use only 4G. */
 const int ONLY_4G = 28;
 
-/** Changes of the modem hardware. */
+/** Changes to the modem hardware. */
 enum class PlugChange {
     Gone,  // unplugged
     Reset, // restarted on its own
