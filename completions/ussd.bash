@@ -1,6 +1,6 @@
 # Completion of ussd(1) for bash.
 
-# Prints the command on the line, if there is one.
+# Prints the ussd command on the command line, such as "send", if there is one.
 _ussd_command() {
     local word
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
@@ -13,8 +13,8 @@ _ussd_command() {
     done
 }
 
-# Completes the identifier of a modem. The modem itself reports it, so it may contain any character.
-# "compgen -W" would expand it, and would even run commands in it.
+# Completes the identifier of a modem. The identifier comes from the modem and may contain any
+# character. "compgen -W" would therefore expand it, and even run commands that it contains.
 _ussd_modems() {
     local id
     while read -r id; do
@@ -32,7 +32,7 @@ _ussd_favourites() {
 
 _ussd() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} options
-    # bash takes "=" as a word of its own.
+    # bash treats "=" as a separate word.
     if [[ $current == = ]]; then
         current=
     elif [[ $previous == = ]]; then

@@ -16,8 +16,8 @@ namespace
 /// The time limit for cancelling a request on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
-/// The time by which the library's time limit for waiting for a turn exceeds the program's own time
-/// limit. The program therefore always gives up first.
+/// The difference between the library's and the program's own time limit for waiting for a turn.
+/// The library's limit is longer, so that the program always stops waiting first.
 const Milliseconds TURN_GRACE(5000);
 
 /// The time for which the program waits for a reply before it starts to observe the device. This

@@ -17,7 +17,7 @@ struct Outcome {
     int type = 0;                  // the type of the TKSV_USSDResponse
     std::string text;              // the reply, in UTF-8
     double seconds = 0;            // the time between the request and its outcome
-    bool hasMissedTurn = false;    // another program of the user did not release the modem in time
+    bool hasMissedTurn = false;    // true if another program has not released the modem in time
 
     bool hasFailed() const { return failure.reason != TKSV_FAILURE_NONE; }
     bool isMenu() const { return !hasFailed() && type == 1; }

@@ -27,7 +27,7 @@ public:
     /// Returns true if the device is simulated.
     bool isSimulated() const { return info().backend == TKSV_BACKEND_SIMULATOR; }
 
-    /// Makes all subsequent changes of the device wake `waits`.
+    /// Makes all subsequent changes to the device wake `waits`.
     void follow();
     /// Waits until the condition is true. Returns false if the time limit expires or a signal
     /// arrives first.

@@ -10,8 +10,8 @@ namespace HostCore
 /**
  * The languages of the host. Each language has a compiled Qt Linguist file whose source texts are
  * the text keys. An operator can replace the texts of the plug-in; see OperatorTexts. Languages are
- * identified by their ISO 639-1 codes ("en", "ar"), followed by a country
- * if there are several variants ("pt_BR").
+ * identified by their ISO 639-1 codes ("en", "ar"), followed by a country if there are several
+ * variants ("pt_BR").
  */
 class Q_DECL_EXPORT Languages
 {

@@ -16,7 +16,7 @@ struct Arguments {
     QString tourFolder;
     QString exportFile; // ends with .csv or .json
     QString scenario;
-    QString modem;                  // equipment identifier
+    QString modem;                  // the equipment identifier of the modem
     bool demo = false;              // use the default simulated network
     bool enable = false;            // with --send: enable the modem
     bool endForeignSession = false; // with --send: end the session of another program

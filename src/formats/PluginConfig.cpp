@@ -127,7 +127,7 @@ void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ)
     differ.returnPattern = textOf(reader, XmlName::RETURN_PATTERN);
     differ.style = numberOf(reader, XmlName::STYLE);
     if (reader.hasError())
-        differ.value = false; // half a section would misjudge every reply
+        differ.value = false; // an incomplete pattern would misinterpret every reply
 }
 
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config)
@@ -175,7 +175,7 @@ void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD)
     while (ForwardXml::skipToBefore(reader, item, QLatin1String(XmlName::AUTO_USSD)))
         readSim(reader, autoUSSD);
     if (reader.hasError()) {
-        autoUSSD = AutoUSSD(); // with half of the prefixes, a SIM could get the windows of another
+        autoUSSD = AutoUSSD(); // with only some of the prefixes, a wrong entry could match
         return;
     }
     while (ForwardXml::skipTo(reader, item))

@@ -34,8 +34,8 @@ std::string initialScenarioPath()
     const char *chosen = std::getenv("TKSV_SCENARIO");
     if (chosen && *chosen)
         return chosen;
-    // GLib instead of std::filesystem, which would link the locales of the C++ library into this
-    // one and double its size.
+    // Does not use std::filesystem, which would link the locales of the C++ library into this
+    // library and double its size.
     const GMemory<char> file(g_build_filename(libraryPath().c_str(), "..", USSD_SHARE_FROM_LIB,
                                               "scenarios", "default.scenario", nullptr));
     const GMemory<char> path(g_canonicalize_filename(file.get(), nullptr));

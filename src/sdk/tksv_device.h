@@ -280,7 +280,7 @@ TKSV_API long TKSV_Device_SetTurnLimit(unsigned int milliseconds);
 /**
  * Ends the USSD session that another program has opened on the modem in use. Call this function
  * only at the user's request, because a purchase may be in progress. Fails if there is no such
- * session. The field `hasForeignSession` changes when the session has ended.
+ * session. The `hasForeignSession` field changes when the session has ended.
  */
 TKSV_API long TKSV_Device_EndForeignSession(void);
 

@@ -71,7 +71,7 @@ void ChainsTest::eachStepIsSentWhileItIsOffered()
     open.takeReply(MAIN_MENU, true);
     open.takeReply(PACKS, true);
     QVERIFY(open.takeReply("Sure?\n1 Yes\n2 No", true).verdict ==
-            Verdict::Done); // the last menu is left to the user
+            Verdict::Done); // the user answers the last menu
 }
 
 void ChainsTest::aChangedLineStopsTheRun_data()

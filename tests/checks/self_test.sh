@@ -64,7 +64,7 @@ write src/USSDUIPlugin/USSDLogic.cpp <<'CODE'
 #include <map>
 #include <QString>
 
-// QStringLiteral would be no good here.
+// QStringLiteral must not be used here.
 CODE
 write src/sdk/tksv.cpp <<'CODE'
 #include "tksv_device.h"

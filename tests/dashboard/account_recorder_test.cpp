@@ -184,27 +184,28 @@ void AccountRecorderTest::anotherCodeMayChangeTheBalance_data()
     row("*123#", "1 Day\n2 Week", true);
     row("2", "A week booked. Balance: 7.50 EUR", true); // the answer to a menu
     row("*199#", "", false);                            // refused
-    row("", "Balance: 7.50 EUR", false);                // not a reply
+    row("", "Balance: 7.50 EUR", false);                // a network-initiated message
     row("*102#", "Your number is +999551846203", false);
     row("*104#", "1.8 GB of 2 GB left", false);
-    row("*103#", "Prepaid account", false); // the dashboard may send this query by itself
+    row("*103#", "Prepaid account", false); // the dashboard may send this query automatically
 }
 
-/// Tests that the balance is marked and never replaced with the amount in such a reply.
+/// Tests that the reply to another code marks the balance as outdated, but that the amount in this
+/// reply never replaces the balance.
 void AccountRecorderTest::anotherCodeMayChangeTheBalance()
 {
     QFETCH(QString, sent);
     QFETCH(QString, text);
     QFETCH(bool, isOutdated);
     m_recorder->record(sent, reply(text.toUtf8().constData()));
-    QVERIFY(!m_store->isOutdated()); // no balance was asked
+    QVERIFY(!m_store->isOutdated()); // the balance has not been queried yet
     m_recorder->record(code("*100#"), reply("Balance: 12.50 EUR"));
     QVERIFY(!m_store->isOutdated());
     m_recorder->record(sent, reply(text.toUtf8().constData()));
     QCOMPARE(m_store->isOutdated(), isOutdated);
     QCOMPARE(m_store->newestBalance().reading.amount->units, qint64(125000));
     m_recorder->record(code("*100#"), reply("Please try later."));
-    QVERIFY(!m_store->isOutdated()); // the card shows these words
+    QVERIFY(!m_store->isOutdated()); // the card shows the new reply instead of a balance
 }
 
 void AccountRecorderTest::eachCodeTellsItsOwnValues()

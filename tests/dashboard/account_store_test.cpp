@@ -27,7 +27,7 @@ namespace
 const char SIM[] = "sim";
 const int KILLS = 40;
 const int MOST_ENTRIES = 4;       // entries that a writer adds before it is killed
-const int LONGEST_REST = 8000000; // ns between the last of these entries and the kill
+const int LONGEST_REST = 8000000; // maximum time in ns between the last entry and the kill
 
 QString sim()
 {
@@ -293,7 +293,7 @@ void AccountStoreTest::anOutdatedBalanceIsRemembered()
     store.setSim(sim(), AccountStore::Keeping::InFile);
     now = day(0).addMonths(13);
     store.add(balance("9.00", 400));
-    QVERIFY(!store.isOutdated()); // its time is over, like that of the entry
+    QVERIFY(!store.isOutdated()); // the record has expired, like the entry
     store.setOutdated(true);
     store.removeAll();
     QVERIFY(!store.isOutdated());
@@ -468,7 +468,8 @@ void AccountStoreTest::anExportThatFailsKeepsTheOldFile()
         !exportAccountTo(QLatin1String("/nonexistent/a.csv"), QLatin1String("/none")).isEmpty());
 }
 
-// Otherwise, the exported file would be empty and look as if there had been no entries.
+// Tests that an export fails if the database is damaged. Otherwise, the exported file would be
+// empty and look as if there had been no entries.
 void AccountStoreTest::anExportReportsADamagedDatabase()
 {
     QVERIFY(QDir().mkpath(m_folder));

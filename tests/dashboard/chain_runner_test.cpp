@@ -261,7 +261,7 @@ void ChainRunnerTest::whatTheUserTypesStopsTheChain()
         if (state().kind == Kind::MenuOpen && page().commandEdit()->isEnabled())
             typeInto(page().commandEdit(), QLatin1String("0"));
     });
-    ChainRunner late(&monitor()); // notified after the simulated user
+    ChainRunner late(&monitor()); // notified later than the simulated user
     m_runner.reset();
     QVERIFY(late.run(packChain()));
     settle();

@@ -136,7 +136,7 @@ void CodeHistoryTest::codesOfTheOperatorAreKeptWhole()
         history.setTemplates(sent);
         for (const QString &code : sent)
             history.add(code);
-        history.add(QLatin1String("*100*1235#")); // typed
+        history.add(QLatin1String("*100*1235#")); // a code that the user has typed
         QCOMPARE(codesOf(history).first(), QString::fromUtf8("*100*…#"));
     }
     const CodeHistory again(file());

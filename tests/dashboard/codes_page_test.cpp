@@ -361,7 +361,7 @@ void CodesPageTest::theLastCodeOfTheHistoryCanBeSeen()
     const QModelIndex last = list()->currentIndex();
     QCOMPARE(last.row(), list()->model()->rowCount() - 1);
     QVERIFY(list()->viewport()->rect().contains(list()->visualRect(last)));
-    codes().openHistoryAt(QLatin1String("*404#")); // not listed
+    codes().openHistoryAt(QLatin1String("*404#")); // the list does not contain this code
     QCOMPARE(list()->currentIndex().row(), 0);
 }
 

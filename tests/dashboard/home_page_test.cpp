@@ -217,7 +217,7 @@ void HomePageTest::aBalanceThatMayHaveChangedSaysSo()
     QVERIFY(chip->isVisible());
     QCOMPARE(m_page->findChild<QPushButton *>(QLatin1String("Dashboard_AskButton"))->text(),
              QLatin1String("Ask again"));
-    QVERIFY(m_actions.done.isEmpty()); // nothing is sent by itself
+    QVERIFY(m_actions.done.isEmpty()); // the page does not send anything automatically
     record("*100#", "Balance: 2.50 EUR");
     drainEvents();
     QVERIFY(!chip->isVisible());
@@ -321,7 +321,7 @@ void HomePageTest::favouritesSendTheirCode()
 {
     open();
     const QList<FavouriteButton *> buttons = m_page->findChildren<FavouriteButton *>();
-    QCOMPARE(buttons.size(), 6); // five codes and "Add"
+    QCOMPARE(buttons.size(), 6); // five codes and the "Add" button
     buttons.at(1)->click();
     QCOMPARE(m_actions.done, QStringList(QLatin1String("send *104#")));
     QCOMPARE(buttons.at(1)->accessibleDescription(), QLatin1String("*104#"));

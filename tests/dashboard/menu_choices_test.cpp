@@ -73,8 +73,8 @@ void MenuChoicesTest::choicesAreRead()
     QCOMPARE(read.join(QLatin1Char('|')), choices);
 }
 
-/// Tests that the key stands before the text, and that the text is in its own order, in a window
-/// from right to left.
+/// Tests that, in a right-to-left window, the key precedes the text, and the text is displayed in
+/// its own direction.
 void MenuChoicesTest::theKeyStandsBeforeItsText()
 {
     const QString text = QLatin1String("1 GB for 20 EUR");
@@ -88,8 +88,8 @@ void MenuChoicesTest::theKeyStandsBeforeItsText()
     layout.endLayout();
     const int start = shown.indexOf(text);
     const auto place = [&line, start](const char *part, const QString &whole) {
-        // After the first character of the part, because a position between two directions has two
-        // coordinates.
+        // Uses the position after the first character of the part, because a position between text
+        // of different directions has two coordinates.
         return line.cursorToX(start + int(whole.indexOf(QLatin1String(part))) + 1);
     };
     QVERIFY(line.cursorToX(shown.indexOf(QLatin1Char('3'))) > place("EUR", text));

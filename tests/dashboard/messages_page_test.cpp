@@ -96,7 +96,7 @@ Message MessagesPageTest::add(const char *text, int secondsAgo, bool waits)
     return m_store->add(SENDER, QString::fromUtf8(text), m_noon.addSecs(-secondsAgo), waits);
 }
 
-/// Delivers a question from the network through the device SDK.
+/// Delivers a message that requires an answer through the device SDK.
 Message MessagesPageTest::ask()
 {
     const char text[] = "A gigabyte for 1.00 EUR?\n1 Yes\n2 No";
@@ -372,7 +372,8 @@ void MessagesPageTest::aNotificationOpensItsMessage()
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
 }
 
-// The Tab key stops at the text, so that a long message can be scrolled with the keyboard.
+// Tests that the text has a visible border while it has the focus. The Tab key stops at the text,
+// so that a long message can be scrolled with the keyboard.
 void MessagesPageTest::theTextShowsThatItHasTheFocus()
 {
     Look::instance().start();

@@ -153,7 +153,7 @@ void ModeChoiceTest::aDemonstrationStoresNothing()
     QVERIFY(choice().canRestore());
     QVERIFY(m_settings->modesBefore(QString()).isEmpty());
     tell(WITH_OLDER);
-    QVERIFY(!choice().canRestore()); // a modem
+    QVERIFY(!choice().canRestore()); // the current device is a modem again
 }
 
 void ModeChoiceTest::aFailureIsReported()

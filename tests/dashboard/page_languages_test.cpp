@@ -13,7 +13,7 @@ using namespace Dashboard;
 namespace
 {
 
-// In pixels, from the smallest width of the window, with two widths of each form.
+// The tested widths of the window in pixels: two for each form, starting with the minimum width.
 const int WIDTHS[] = {360, 600, 650, 900, 930, 1120};
 const PageId PAGES[] = {PageId::Home, PageId::Codes, PageId::Services, PageId::Messages,
                         PageId::Settings};
@@ -49,8 +49,8 @@ bool isCut(const QWidget *widget)
            button->width() < button->minimumSizeHint().width();
 }
 
-/// Returns true if the button shows only an icon, and neither a tool tip nor a screen reader tells
-/// its purpose.
+/// Returns true if the button shows only an icon, and lacks a tool tip or a name for screen
+/// readers.
 bool isUnexplained(const QWidget *widget)
 {
     const QPushButton *button = qobject_cast<const QPushButton *>(widget);
@@ -77,7 +77,7 @@ private slots:
 
 private:
     void addLanguages();
-    /// Shows every page in every width, and returns the widgets for which the function returns
+    /// Shows every page at every width, and returns the widgets for which the function returns
     /// true.
     template <typename Widget>
     QStringList found(bool (*isWrong)(const Widget *));

@@ -209,8 +209,8 @@ void PaidTypeTest::theAnswerOfTheSimBeforeIsNotTaken()
              qPrintable(shown.join(QLatin1String("|"))));
 }
 
-// Tests that the detection on a new device starts after a pause. During the pause, another thread
-// of the plug-in may still be cancelling the commands for the previous device.
+// Tests that the detection on a new device starts after a pause. During the pause, a thread of the
+// SDK may still be cancelling the commands for the previous device.
 void PaidTypeTest::aNewDeviceIsLeftAloneForAMoment()
 {
     openWith(PREPAID_SIM, PREPAID);

@@ -96,8 +96,8 @@ void PluginLoadingTest::theInstalledPluginLoads()
     QVERIFY(failure.text().isEmpty());
 }
 
-/// Tests that an operator's folder without a library uses the installed library, and that a folder
-/// without the plug-in's files is not accepted.
+/// Tests that the installed library is loaded if an operator's folder does not contain one, and
+/// that a folder without the plug-in's files is not accepted.
 void PluginLoadingTest::anOperatorsFolderTakesTheInstalledLibrary()
 {
     const QString shipped = LoadedPlugin::installedFile();

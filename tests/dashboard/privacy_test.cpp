@@ -89,7 +89,7 @@ private:
 
 void PrivacyTest::setUp()
 {
-    QDir(QDir::homePath()).removeRecursively(); // the files of an earlier run
+    QDir(QDir::homePath()).removeRecursively(); // deletes the files of an earlier run
     QVERIFY(QDir().mkpath(QDir::homePath()));
     DeviceTest::setUp();
 }
@@ -176,7 +176,7 @@ void PrivacyTest::aSessionLeavesNoSecretInAFile()
     useEverything();
     const MessageStore &store = window().findChild<MessageParts *>()->store();
     QCOMPARE(store.file().isEmpty(), false);
-    tearDown(); // writes what is still in memory
+    tearDown(); // writes the data that is still in memory
     const QString home = QDir::homePath();
     // Proves that the session has written its files.
     QCOMPARE(filesWith(home, "1250EUR").size(), 1);

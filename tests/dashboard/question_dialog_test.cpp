@@ -12,7 +12,7 @@
 
 using namespace Dashboard;
 
-/** Tests that the user can answer a question from the network while a plug-in window is modal. */
+/** Tests that the user can answer a menu of the network while a plug-in window is modal. */
 class QuestionDialogTest : public CommandTest
 {
     Q_OBJECT

@@ -20,7 +20,7 @@
 
 using namespace Dashboard;
 
-/** Tests the device card, from its buttons to the calls of the device SDK. */
+/** Tests the device card, from its buttons to the calls to the device SDK. */
 class RemedyTest : public UssdTest
 {
     Q_OBJECT

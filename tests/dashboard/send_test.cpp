@@ -281,8 +281,8 @@ void SendTest::aSignalEndsTheWaitForTheDevice()
     QCOMPARE(interruption.signalNumber(), SIGTERM);
 }
 
-/// The program restores the size at the start and stores it when the signal arrives. Between the
-/// two, the stored size is removed, so that it cannot be left over.
+/// Tests that the program restores the size at the start and stores it when a signal arrives. The
+/// test removes the stored size in between, so that it cannot find the old value.
 void SendTest::theSizeOfTheWindowSurvivesASignal()
 {
     const QSize size(700, 590);

@@ -179,7 +179,8 @@ void ShellTest::aChangeOfFormKeepsThePagesAndTheFocus()
     }
 }
 
-// Otherwise, hidden pages would cost most of the start time.
+// Tests that a page is not constructed before it is needed. Otherwise, the hidden pages would take
+// up most of the start time.
 void ShellTest::aPageIsConstructedWhenItIsNeeded()
 {
     for (const char *name : {"Dashboard_ServicesPage", "Dashboard_MessagesPage",
@@ -190,7 +191,8 @@ void ShellTest::aPageIsConstructedWhenItIsNeeded()
     QVERIFY(!part<QWidget>("Dashboard_MessagesPage"));
 }
 
-// Tests that constructing a page does not construct another one that requires the first one.
+// Tests that the Settings page is constructed only once, although its construction also constructs
+// the Codes page.
 void ShellTest::aPageIsConstructedOnceBeforeThePluginIsLoaded()
 {
     m_plugin.reset(new LoadedPlugin);

@@ -84,7 +84,7 @@ void SubscriberTest::open()
     drainEvents();
 }
 
-/// Switches the daily balance on, as a user would.
+/// Enables the daily balance query, as a user would.
 void SubscriberTest::switchOn()
 {
     window().showPage(PageId::Settings);
@@ -100,7 +100,8 @@ int SubscriberTest::asked() const
     return page().transcript().count(QLatin1String("*100#"));
 }
 
-/// Lets the hours pass, and lets the dashboard look at the time. Returns true if it sent a code.
+/// Advances the clock by this number of hours and makes the dashboard check the time. Returns true
+/// if the dashboard has sent a code.
 bool SubscriberTest::look(int hours)
 {
     m_time = m_time.addSecs(hours * HOUR);
@@ -205,7 +206,8 @@ void SubscriberTest::theBalanceIsNotAskedWhileTheUserTypes()
 
 /* ---- the balance on Home ----------------------------------------------------------------- */
 
-/// Tests that Home neither shows the amount in the reply to another code nor asks by itself.
+/// Tests that the Home page does not show the amount in the reply to another code, and does not
+/// query the balance automatically.
 void SubscriberTest::aPackBoughtMarksTheBalance()
 {
     useNetwork(IMSI, "Balance=12.50\nCurrency=EUR",
@@ -237,7 +239,7 @@ void SubscriberTest::olderNetworksAreAllowedAndTakenBack()
     const StateStrip *strip = window().findChild<StateStrip *>();
     QTRY_COMPARE(strip->text(), dashboardText("FAILURE_ON_LTE"));
     QTRY_VERIFY(shownButton("Dashboard_AllowOlder"));
-    QCOMPARE(modes().current.allowed, unsigned(TKSV_MODE_4G)); // nothing unasked
+    QCOMPARE(modes().current.allowed, unsigned(TKSV_MODE_4G)); // not changed yet
     shownButton("Dashboard_AllowOlder")->click();
     QTRY_COMPARE(modes().current.allowed, unsigned(TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G));
     QCOMPARE(ask("*100#"), QLatin1String("Your balance is 12.50 EUR."));

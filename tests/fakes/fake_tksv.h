@@ -36,7 +36,7 @@ FAKE_API bool fakeSdkWaitIdle(std::chrono::milliseconds limit = FAKE_SDK_PATIENC
 
 // ---- recorded calls --------------------------------------------------------------------------
 
-/// A call of an SDK function.
+/// A call to an SDK function.
 struct FakeCall {
     std::string function; ///< the name of the function, such as "TKSV_USSDSrv_Request"
     std::thread::id thread;
@@ -51,7 +51,7 @@ struct FakeCall {
     int status = 0;        ///< the value written to `*status`
 };
 
-/// Returns the calls of all functions or of one function, in the order of the calls.
+/// Returns the calls to all functions or to one function, in the order in which they were made.
 FAKE_API std::vector<FakeCall> fakeSdkCalls();
 FAKE_API std::vector<FakeCall> fakeSdkCalls(const std::string &function);
 
@@ -81,7 +81,7 @@ struct FakeDelivery {
     std::thread::id thread;
 };
 
-/// Returns all finished calls of call-backs, in the order in which they finished.
+/// Returns all finished calls to call-backs, in the order in which they finished.
 FAKE_API std::vector<FakeDelivery> fakeSdkDeliveries();
 FAKE_API std::vector<FakeDelivery> fakeSdkDeliveries(FakeService service);
 
@@ -161,8 +161,8 @@ FAKE_API void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems);
 /// TKSV_Device_CancelRequest changes this result.
 FAKE_API void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure);
 
-/// Sets what TKSV_Device_GetModes returns. The `path` of a recorded call of TKSV_Device_SetModes is
-/// the setting, such as "7,0".
+/// Sets the result of TKSV_Device_GetModes. In a recorded call to TKSV_Device_SetModes, `path`
+/// contains the requested setting, such as "7,0".
 FAKE_API void fakeSdkSetModes(const TKSV_ModesInfo &modes);
 
 /// Sends a network-initiated message from the device's thread. The message is lost if no call-back

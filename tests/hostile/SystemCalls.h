@@ -5,7 +5,7 @@
 #include <vector>
 
 /*
- * Records the calls of open(), socket() and the functions that start programs. These functions are
+ * Records the calls to open(), socket() and the functions that start programs. These functions are
  * replaced in the program. Each replacement calls the original function in the C library.
  */
 namespace SystemCalls

@@ -148,7 +148,8 @@ std::vector<SubmittedSms> FakeModem::submitted() const
     return m_submitted;
 }
 
-/// m_mutex must be locked.
+/// Returns the number of received commands that start with this string. Must be called with m_mutex
+/// locked.
 int FakeModem::count(const std::string &start) const
 {
     return static_cast<int>(

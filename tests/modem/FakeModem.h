@@ -21,8 +21,8 @@ class ModemCore;
 
 /**
  * A fake AT modem on a Unix socket, with a simulated network. It implements the commands that
- * ModemManager expects from a real modem (3GPP TS 27.007, 27.005 and 23.040). It can be told to
- * misbehave, and it records everything that it receives. It answers without delay, from its own
+ * ModemManager expects from a real modem (3GPP TS 27.007, 27.005 and 23.040). A test can make it
+ * misbehave. The modem records everything that it receives, and answers without delay from its own
  * thread.
  *
  * The outcomes in a scenario are translated to AT responses as follows. A refusal is +CUSD: 2,

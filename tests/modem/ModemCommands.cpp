@@ -201,8 +201,8 @@ AtAnswer ModemCore::allowedNetworks(const AtCommand &command)
     return ok();
 }
 
-/// The daemon's plug-in "telit" reads the technology with this command and not from +CREG: 2 for
-/// 3G, 4 for 4G.
+/// Answers with the access technology: 2 for 3G, 4 for 4G. The daemon's "telit" plug-in uses this
+/// command instead of +CREG.
 AtAnswer ModemCore::technology(const AtCommand &)
 {
     if (m_allowedNetworks == 0)
@@ -217,7 +217,8 @@ std::string ModemCore::networkCode() const
     return m_sim.data().imsi.substr(0, mccLength + mncLength);
 }
 
-/// Format 0 is the long name, and format 2 is the numeric operator code (3GPP TS 27.007, 7.3).
+/// Sets the format of the operator name, or answers with the name: format 0 is the long name, and
+/// format 2 is the numeric operator code (3GPP TS 27.007, 7.3).
 AtAnswer ModemCore::operatorName(const AtCommand &command)
 {
     if (command.form == AtCommand::Set && command.value(0) == "3")
@@ -231,7 +232,7 @@ AtAnswer ModemCore::operatorName(const AtCommand &command)
                                   : "+COPS: 0,0," + quoted(name) + ",2");
 }
 
-/// The signal strength is 0 to 31, or 99 if it is unknown (3GPP TS 27.007, 8.5).
+/// Answers with the signal strength: 0 to 31, or 99 if it is unknown (3GPP TS 27.007, 8.5).
 AtAnswer ModemCore::signal(const AtCommand &)
 {
     const int percent = device().signalPercent;

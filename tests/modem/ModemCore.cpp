@@ -32,8 +32,8 @@ ModemCore::ModemCore(LoopThread &thread, const std::string &port, ModemSettings 
 
 /* ---- the network ------------------------------------------------------------------------- */
 
-/// A locked SIM card is handled by the modem itself. The network is therefore started in the
-/// registered state.
+/// Starts the network of the scenario. If the SIM card is locked, the network starts in the
+/// registered state, because the modem itself implements the lock.
 void ModemCore::useNetwork(Tksv::Scenario scenario)
 {
     SimData sim = m_settings.sim;
@@ -105,7 +105,7 @@ void ModemCore::networkLost(int event)
     m_news.plugChanged(event == TKSV_DEV_EVENT_RESET ? PlugChange::Reset : PlugChange::Gone);
 }
 
-/// Sends changes of the registration and the signal as unsolicited lines. AT commands cannot report
+/// Sends changes in the registration and the signal as unsolicited lines. AT commands cannot report
 /// that only SMS is unavailable, so the modem loses its registration instead.
 void ModemCore::networkChanged()
 {

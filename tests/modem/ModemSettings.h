@@ -27,7 +27,7 @@ struct ModemSettings {
     // If true, the modem reports each change in signal strength immediately, in five steps.
     // Otherwise, the daemon queries the signal strength every 30 s.
     bool tellsSignal = false;
-    // The name of the daemon's plug-in for the modem. The plug-in "generic" cannot change the
+    // The name of the daemon's plug-in for the modem. The "generic" plug-in cannot change the
     // networks that a modem may use.
     std::string plugin = "generic";
     // The networks that the modem may use at first, as a value of +WS46 (3GPP TS 27.007, 5.9). If
@@ -40,7 +40,7 @@ struct ModemSettings {
 /** The value of +WS46 for a modem that may use only 4G. */
 const int ONLY_4G = 28;
 
-/** Changes of the modem hardware. */
+/** Changes to the modem hardware. */
 enum class PlugChange {
     Gone,  // unplugged
     Reset, // restarted on its own

@@ -20,10 +20,11 @@ namespace FakeModems
 /** The state of a modem, as reported by the daemon. */
 struct ModemState {
     std::string object; // the object path; empty if there is no object
-    int state = -1;     // MMModemState: 2 locked, 3 disabled, 6 enabled, 7 searching, 8 registered
-    int lock = 0;       // MMModemLock: 1 none, 2 SIM PIN, 4 SIM PUK
-    unsigned allowedModes = 0;   // MMModemMode flags: 2 2G, 4 3G, 8 4G
-    unsigned preferredModes = 0; // MMModemMode flags; 0 none
+    // MMModemState: 2 = locked, 3 = disabled, 6 = enabled, 7 = searching, 8 = registered.
+    int state = -1;
+    int lock = 0;                // MMModemLock: 1 = none, 2 = SIM PIN, 4 = SIM PUK
+    unsigned allowedModes = 0;   // MMModemMode flags: 2 = 2G, 4 = 3G, 8 = 4G
+    unsigned preferredModes = 0; // MMModemMode flags; 0 = none
     bool hasUssd = false;
     bool hasMessaging = false;
 };

@@ -94,7 +94,8 @@ void readHeader(const Bytes &header, SubmittedSms &sms)
 
 enum class Alphabet { Default, Data, Ucs2 };
 
-/// Supports the general data coding group and the message class group of 3GPP TS 23.038, chapter 4.
+/// Returns the alphabet for the data coding scheme. Supports the general data coding group and the
+/// message class group of 3GPP TS 23.038, chapter 4.
 Alphabet alphabetOf(unsigned coding)
 {
     const unsigned alphabet = coding >> 2 & 0x03;
@@ -105,8 +106,8 @@ Alphabet alphabetOf(unsigned coding)
     return alphabet == 1 ? Alphabet::Data : Alphabet::Default;
 }
 
-/// `length` is the number of septets in the default alphabet, including the header and the fill
-/// bits. In other alphabets, it is the number of octets.
+/// Decodes the text of a message. `length` is the number of septets in the default alphabet,
+/// including the header and the fill bits. In other alphabets, it is the number of octets.
 std::string decodeUserData(const Bytes &data, std::size_t headerSize, std::size_t length,
                            Alphabet alphabet)
 {

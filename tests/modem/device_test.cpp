@@ -642,8 +642,8 @@ void ModemDeviceTest::aMissingPolkitIsSaid()
 
 /* ---- the radio --------------------------------------------------------------------------- */
 
-/// Tests that the library reports a change of the permitted networks that has failed. The daemon's
-/// generic plug-in cannot change the networks that a modem may use.
+/// Tests that the library reports a failed change to the networks that the modem may use. The
+/// daemon's generic plug-in cannot change these networks.
 void ModemDeviceTest::aSettingThatTheModemRefusesIsReported()
 {
     useModem();

@@ -427,8 +427,8 @@ void EndToEndTest::aQuestionOfTheNetworkIsAnswered()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// Tests both buttons of the strip with a daemon that changes the modem's setting, so that codes
-/// work in between. The daemon's plug-in for this modem changes the setting with +WS46.
+/// Tests the buttons that allow 2G and 3G and that restore the previous setting. Codes work only
+/// while 2G and 3G are allowed. The daemon's plug-in for this modem changes the setting with +WS46.
 void EndToEndTest::aModemHeldOn4GIsAllowedOlderNetworks()
 {
     FakeModems::ModemSettings held;
@@ -445,7 +445,7 @@ void EndToEndTest::aModemHeldOn4GIsAllowedOlderNetworks()
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String(USSD_FAILED));
     const StateStrip *strip = window().findChild<StateStrip *>();
     QTRY_COMPARE(strip->text(), dashboardText("FAILURE_ON_LTE"));
-    QCOMPARE(m_world->stateOf("one").allowedModes, before.allowedModes); // nothing unasked
+    QCOMPARE(m_world->stateOf("one").allowedModes, before.allowedModes); // not changed yet
     QVERIFY(!shownButton(QLatin1String("Dashboard_Only4G")));
     QTRY_VERIFY(shownButton(QLatin1String("Dashboard_AllowOlder")));
     shownButton(QLatin1String("Dashboard_AllowOlder"))->click();

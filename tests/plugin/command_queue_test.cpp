@@ -2,9 +2,9 @@
  * Tests the rules of CommandQueue, first individually and then with every possible order of steps.
  *
  * The search combines up to eight events: send, reply, time-out, cancel, loss of the device, clear
- * and destroy. Each event starts a call of USSDLogic, which consists of several steps. A step is
- * work that a thread performs without interruption: a call of the queue, a query of the timer, or a
- * change of the timer. QueueWorld.cpp performs the steps in the same order as USSDLogic.cpp.
+ * and destroy. Each event starts a call to USSDLogic, which consists of several steps. A step is
+ * work that a thread performs without interruption: a call to the queue, a query of the timer, or a
+ * change to the timer. QueueWorld.cpp performs the steps in the same order as USSDLogic.cpp.
  * Announcing an answer is part of the step that claims the head. The request to the device is part
  * of the preceding check. These operations do not need separate steps, because they do not access
  * any data that threads share. A sender waits up to 3 s for an earlier time-out; in the search,

@@ -445,7 +445,7 @@ void ConfigGettersTest::shippedFileIsComplete()
         QVERIFY(!text(paidType, ONLINE_CHARGE, ATTR_URL).isEmpty());
         QVERIFY(!text(paidType, MSISDN, ATTR_COMMAND).isEmpty());
     }
-    QVERIFY(look(CHAR_SET_SEND).yHeight >= 20 * 6); // large enough for several lines
+    QVERIFY(look(CHAR_SET_SEND).yHeight >= 20 * 6); // at least 6 points
     QVERIFY(look(CHAR_SET_RECEIVE).yHeight >= 20 * 6);
     QVERIFY(clearSetting().visible);
     // The last section is found only if all previous sections have been found.

@@ -113,7 +113,7 @@ void ConfigSectionsTest::laterItemOfTheSameComponentWins()
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*2#"));
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 2);
     QCOMPARE(number(PREPAID, BALANCE, ATTR_VALUE), 0);
-    QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 0); // there is no such item
+    QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 0); // the section has no MSISDN item
 }
 
 void ConfigSectionsTest::numberThatDoesNotParseIsZero_data()

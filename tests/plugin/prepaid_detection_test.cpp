@@ -83,7 +83,7 @@ private:
 
     std::unique_ptr<Notifications> m_notifications;
     std::unique_ptr<Container> m_container;
-    PrePostRecord m_given; // refers to three variables of the caller
+    PrePostRecord m_given; // the arguments that GetPrePostInfo() has set
 
 private slots:
     void replyWithADigitMeansPrepaid();

@@ -133,7 +133,7 @@ Response ask(const std::u16string &text);
 
 /**
  * Runs an action that must finish within `milliseconds`, before the network sends its next message.
- * Each attempt starts with a call of `prepare`. Because the machine may be busy, several attempts
+ * Each attempt starts with a call to `prepare`. Because the machine may be busy, several attempts
  * are made. Returns false if all attempts were too slow.
  */
 bool doInTime(int milliseconds, const std::function<void()> &prepare,

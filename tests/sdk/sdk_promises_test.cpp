@@ -107,7 +107,7 @@ void startAfresh()
     TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
 }
 
-/** Counts the calls of another USSD call-back. */
+/** Counts the calls to another USSD call-back. */
 std::atomic<int> secondCalls(0);
 unsigned char secondUssd(int, void *)
 {

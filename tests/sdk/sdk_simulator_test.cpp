@@ -149,7 +149,7 @@ void SdkSimulator::replacedRequestTakesNoMoney()
         request(u"*100#");
     }));
     QCOMPARE(answerTo(u"*100#"), is("0 10.00 EUR"));
-    // Arrives later than the reply to the first *103# would have.
+    // This reply arrives later than the reply to the replaced request would have arrived.
     QCOMPARE(answerTo(u"*103#"), is("0 late"));
     QCOMPARE(answerTo(u"*100#"), is("0 15.00 EUR"));
 }

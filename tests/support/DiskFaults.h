@@ -5,8 +5,8 @@
 
 /*
  * Injects a fault into the n-th disk operation of this process in a given folder and its
- * subfolders. Disk operations are calls of write(), fsync(), ftruncate(), rename(), link(),
- * symlink(), mkdir(), chmod(), unlink() and rmdir(), and calls of open() that create or truncate a
+ * subfolders. Disk operations are calls to write(), fsync(), ftruncate(), rename(), link(),
+ * symlink(), mkdir(), chmod(), unlink() and rmdir(), and calls to open() that create or truncate a
  * file. All variants of these functions are included. The functions are replaced in the program
  * that is linked with this file, and in all libraries that the program loads.
  *

@@ -508,8 +508,8 @@ void ConfigCheckTest::misspeltNetworkHasOneFinding_data()
     QTest::newRow("comma") << QByteArray("12.50") << QByteArray("12,50");
 }
 
-/// Tests that a misspelt [Network] group has only one finding, although many rules use the balance
-/// from this group.
+/// Tests that a misspelt [Network] group causes only one finding, although many rules use the
+/// balance from this group.
 void ConfigCheckTest::misspeltNetworkHasOneFinding()
 {
     QFETCH(QByteArray, before);

@@ -250,7 +250,8 @@ bool AccessibleTree::listen()
                .type() == QDBusMessage::ReplyMessage;
 }
 
-// The event contains the object itself instead of the new value.
+// Records the event. If the name of an object has changed, the name is queried, because the event
+// contains the object itself instead of the new name.
 void AccessibleTree::onEvent(const QDBusMessage &message)
 {
     const QString detail = message.arguments().value(0).toString();

@@ -1,18 +1,19 @@
-// Reads and operates a program on a private desktop through its accessible objects, for scripts:
-//
-//     accessible desktop COMMAND...      runs the command on a private desktop
-//     accessible tree                    prints what a screen reader finds
-//     accessible wait PATTERN            waits until a line of the tree matches
-//     accessible gone PATTERN            waits until no line of the tree matches
-//     accessible at PATTERN              prints the screen coordinates of the centre of the first
-//     match accessible press PATTERN           presses the first match accessible read PATTERN
-//     waits until the content of a text field or a transcript
-//                                        matches
-//     accessible picture FILE            saves a picture of the screen
-//
-// The patterns are regular expressions. The exit status is 1 if a pattern does not match in time.
-// The desktop passes the address of its accessibility bus in $USSD_ACCESSIBILITY_BUS. The usual
-// variable, $AT_SPI_BUS_ADDRESS, would prevent programs with Qt 6.4 from publishing their widgets.
+/*
+ * Reads and operates a program on a private desktop through its accessible objects, for scripts:
+ *
+ *   accessible desktop COMMAND...   runs the command on a private desktop
+ *   accessible tree                 prints the widgets as reported to a screen reader
+ *   accessible wait PATTERN         waits until a line of the tree matches
+ *   accessible gone PATTERN         waits until no line of the tree matches
+ *   accessible at PATTERN           prints the screen coordinates of the centre of the first match
+ *   accessible press PATTERN        presses the first match
+ *   accessible read PATTERN         waits until the content of a text field or a transcript matches
+ *   accessible picture FILE         saves a picture of the screen
+ *
+ * The patterns are regular expressions. The exit status is 1 if a pattern does not match in time.
+ * The desktop passes the address of its accessibility bus in $USSD_ACCESSIBILITY_BUS. The usual
+ * variable, $AT_SPI_BUS_ADDRESS, would prevent programs with Qt 6.4 from publishing their widgets.
+ */
 
 #include <QElapsedTimer>
 #include <QGuiApplication>

@@ -62,7 +62,7 @@ private:
     bool m_catchUpPosted;
     quint64 m_arming;
     qint64 m_deadline;
-    qint64 m_wake; // when the QTimer fires, in system clock time; -1 if it is stopped
+    qint64 m_wake; // the time at which the QTimer fires (system clock); -1 if it is stopped
 
     quint64 m_runOut; // used only on the timer's thread
 };

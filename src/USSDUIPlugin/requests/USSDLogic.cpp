@@ -108,7 +108,7 @@ void USSDLogic::Destroy()
     m_pTimer = nullptr;
     delete m_pUSSDLogicInstance;
     m_pUSSDLogicInstance = nullptr;
-    LockedQueue()->clear(); // the list goes with its owner, or the next one would wait behind it
+    LockedQueue()->clear(); // otherwise, the next object would wait for these commands
 }
 
 // The two functions below are parts of the constructor and log under its name.
@@ -267,7 +267,7 @@ void USSDLogic::armReplyTimer(quint64 number)
     if (!m_pTimer)
         return;
     QtCompat::MutexLocker locker(&m_mutexTimeout);
-    if (m_pTimer->isArmed()) // an earlier request's; its reply may be under way on another thread
+    if (m_pTimer->isArmed()) // for an earlier request; another thread may be handling its reply
         m_waitCondition.wait(&m_mutexTimeout, static_cast<unsigned long>(m_replyTimes.previous));
     m_timedHead = number;
     const quint64 arming = m_pTimer->arm(m_replyTimes.reply);

@@ -140,8 +140,8 @@ public:
 
     static QString tr(const QString &key);
 
-    /// Sets the time limits for subsequent commands. By default, the limits are 30 s for a reply,
-    /// which $USSD_REPLY_TIMEOUT_MS overrides, and 3 s for the previous time-out. Must be called
+    /// Sets the time limits for subsequent commands. By default, `reply` is 30 s, unless
+    /// $USSD_REPLY_TIMEOUT_MS specifies a different limit, and `previous` is 3 s. Must be called
     /// from the GUI thread.
     static void setReplyTimes(const ReplyTimes &times);
     static ReplyTimes replyTimes();

@@ -465,7 +465,7 @@ void USSDDlg::OnClickedMSISDNUpdateButton()
 
 void USSDDlg::OnTextEdited(QString text)
 {
-    m_bReturnDown = false; // its release may have gone to another widget
+    m_bReturnDown = false; // another widget may have received the key release
     if (m_pChargeActivateButton)
         m_pChargeActivateButton->setEnabled(isChargeLongEnough(m_chargeRules, text.length()));
 }

@@ -461,7 +461,7 @@ bool USSDGeneralDlg::onResponseReceived()
     m_pSendButton->setEnabled(false);
     m_pPaymentEdit->setEnabled(true);
     m_pPaymentEdit->clear();
-    m_strLastValidPayment.clear(); // or a refused key would bring the old number back
+    m_strLastValidPayment.clear(); // otherwise, a rejected key would restore the old number
     m_pUSSDCmdEdit->setEnabled(true);
     m_pUSSDCmdEdit->clear();
     return true;

@@ -13,7 +13,7 @@
 namespace
 {
 
-const int PAY_BUTTONS = 2; // the last ones
+const int PAY_BUTTONS = 2; // the last two preset buttons are payment buttons
 const int MAX_PAYMENT_NUMBER = 20;
 
 } // namespace

@@ -177,7 +177,7 @@ void USSDGeneralDlg::OnClickedEditButton()
     addProfilesToCombo();
     update4EditCommandSave();
     if (!m_bWaiting)
-        OnUSSDCmdEdit(); // the combo, which is empty now, has disabled Send
+        OnUSSDCmdEdit(); // required because clearing the combo box has disabled Send
 }
 
 void USSDGeneralDlg::update4EditCommandSave()

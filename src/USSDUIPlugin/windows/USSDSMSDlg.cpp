@@ -578,7 +578,7 @@ void CUSSDSMSDlg::startSending()
     m_bBusy = true;
     if (m_command.kind == CONTROL_KIND_SMS)
         startSms();
-    else // the previous answer stays until the new one arrives
+    else // the previous reply stays visible until the new one arrives
         SendUSSDCommand(COMPONENT_USSD_SMS, m_command.command);
 }
 

@@ -417,7 +417,7 @@ void CUSSDService::OnDlgCloseEvent()
     case PAID_TYPE_USSD_SMS:
         leaveIfExists(m_pUSSDSMSDlg);
         if (self)
-            m_modalPaidType = PAID_TYPE_USSD_SMS; // stays set, unlike for the other types
+            m_modalPaidType = PAID_TYPE_USSD_SMS; // kept, whereas other types are reset
         return;
     default:
         return;

@@ -28,7 +28,7 @@ enum class CodeKind {
 /// Returns the name of the icon for codes of this kind.
 const char *codeIcon(CodeKind kind);
 
-/** A named code from the operator's or the user's file, or a chain that the user has kept. */
+/** A named code from the operator's or the user's file, or a chain that the user has stored. */
 struct NamedCode {
     QString name; // in the user's language if the file has a text key
     QString code; // may contain a placeholder for a number

@@ -20,7 +20,7 @@ const QList<QList<const char *>> &migrations()
          "units INTEGER NOT NULL, decimals INTEGER NOT NULL, lowest INTEGER NOT NULL, "
          "falls INTEGER NOT NULL, rises INTEGER NOT NULL, PRIMARY KEY (sim, day, currency)) "
          "WITHOUT ROWID"},
-        // Contains the SIMs whose balance may have changed since it was asked.
+        // Contains the SIMs whose balance may have changed since it was queried.
         {"CREATE TABLE outdated (sim TEXT PRIMARY KEY, since INTEGER NOT NULL) WITHOUT ROWID"}};
     return steps;
 }

@@ -28,7 +28,8 @@ public:
     /// stopped or if the entries cannot be read.
     bool forEach(const QString &sim,
                  const std::function<bool(const QString &sim, const AccountEntry &)> &use);
-    /// Records that another code was answered after the balance was asked, or that this is over.
+    /// Records that the network answered another code after the balance query, at the time `since`.
+    /// The stored balance may then be outdated. clearOutdated() removes this record.
     bool setOutdated(const QString &sim, const QDateTime &since);
     bool clearOutdated(const QString &sim);
     bool isOutdated(const QString &sim);

@@ -16,7 +16,7 @@ const int VISIBLE_DIGITS = 4;
 /// Returns true if there is a currency directly before or after the digits.
 bool isAmount(const QString &text, int start, int end)
 {
-    const int reach = 16; // longer than each currency name and the space next to it
+    const int reach = 16; // longer than any currency name and the space next to it
     const QString before =
         plainForm(text.mid(qMax(0, start - reach), start - qMax(0, start - reach)));
     const QString behind = plainForm(text.mid(end, reach));

@@ -56,7 +56,7 @@ public:
     /// Returns the balances of the last 30 days. Only balances in the currency of the newest one
     /// are included.
     QList<BalanceDay> lastDays() const;
-    /// Records whether the balance may have changed since it was asked. Emits changed().
+    /// Records whether the balance may have changed since it was queried. Emits changed().
     void setOutdated(bool isOutdated);
     bool isOutdated() const;
     /// Returns the file that contains the entries, or an empty string if they are in memory.

@@ -12,7 +12,7 @@ namespace Dashboard
 namespace
 {
 
-const int INTERVAL = 5 * 60 * 1000; // ms between two calls of look()
+const int INTERVAL = 5 * 60 * 1000; // ms between two calls to look()
 const qint64 SECONDS_IN_HOUR = 3600;
 
 QString userSimKey(const QString &imsi)

@@ -31,8 +31,8 @@ public:
     /// the user has never selected favourites, returns the codes that most subscribers need,
     /// followed by the chains. At most MOST favourites are returned.
     QList<NamedCode> among(const AccountCodes &codes) const;
-    /// Replaces the favourites with these ones, in this order. Returns false if they cannot be
-    /// stored.
+    /// Replaces the favourites with the given ones, in the given order. Returns false if they
+    /// cannot be stored.
     bool select(const QList<NamedCode> &favourites);
 
     /// Returns the chains of the home network.

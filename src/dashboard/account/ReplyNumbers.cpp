@@ -48,7 +48,7 @@ bool readParts(const Parts &parts, qint64 *units, int *decimals)
     return true;
 }
 
-/// Returns true if, in this currency, three digits after a single mark are thousands.
+/// Returns true if a single mark before three digits is a thousands separator in this currency.
 bool areThousands(QChar mark, Grouping grouping)
 {
     return (mark == QLatin1Char('.') && grouping == Grouping::Points) ||

@@ -23,7 +23,7 @@ public:
     explicit ReplyText(const QString &text);
 
     const QString &plain() const { return m_plain; }
-    const QString &folded() const { return m_folded; } // in lower case; has the same length
+    const QString &folded() const { return m_folded; } // the reply in lower case
     QString folded(int start, int end) const { return m_folded.mid(start, end - start); }
 
     const QList<CurrencyMark> &currencies() const { return m_currencies; }

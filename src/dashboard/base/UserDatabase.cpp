@@ -31,7 +31,7 @@ QString newConnectionName()
     return QString::fromLatin1("user-database-%1").arg(last.fetchAndAddOrdered(1));
 }
 
-/// Creates the file before SQLite opens it, so that other users cannot read it at any time.
+/// Creates the file before SQLite opens it, so that other users can never read it.
 bool makePrivateFile(const QString &path)
 {
     const QString folder = QFileInfo(path).path();

@@ -26,7 +26,7 @@ const char HIDES_SIM_NUMBER[] = "hide-sim-number";
 const char KEEPS_HISTORY[] = "keep-history";
 const char FIRST_RUN_DONE[] = "first-run-done";
 const char ASKS_DAILY[] = "ask-daily";
-const char LAST_ASKED[] = "last-asked"; // a group with a time for each SIM
+const char LAST_ASKED[] = "last-asked"; // the group with the last balance query of each SIM
 const char MODES_BEFORE[] = "modes-before/";
 
 const char *const THEMES[] = {"system", "light", "dark"};

@@ -20,12 +20,12 @@ struct DeviceStatus {
     QString homeNetwork;    // MCC and MNC of the SIM's operator, 5 or 6 digits; empty if unknown
     QString simOperator;    // service provider name (SPN) stored on the SIM; empty if unknown
     QString source;         // the scenario file, or the modem's manufacturer and model
-    bool isLooking = false; // ModemManager has not reported its modems yet
-    bool hasForeignSession = false; // another program has opened a USSD session
-    bool waitsForTurn = false;      // a request is waiting for another program of the same user
-    bool isRoaming = false;         // registered with a network that is not the SIM's own
-    QString equipmentId;            // identifier of the current modem; empty if there is none
-    TKSV_ModesInfo modes = {};      // the network generations that the modem may use
+    bool isLooking = false; // true until ModemManager has reported its modems
+    bool hasForeignSession = false; // true if another program has opened a USSD session
+    bool waitsForTurn = false; // true if a request is waiting for another program of the same user
+    bool isRoaming = false;    // true if the network is not the home network of the SIM
+    QString equipmentId;       // identifier of the current modem; empty if there is none
+    TKSV_ModesInfo modes = {}; // the network generations that the modem may use
 
     bool operator==(const DeviceStatus &other) const;
     bool operator!=(const DeviceStatus &other) const { return !(*this == other); }

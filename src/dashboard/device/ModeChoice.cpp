@@ -64,7 +64,7 @@ void ModeChoice::restore()
 
 void ModeChoice::change(const TKSV_Modes &modes)
 {
-    m_hasFailed = false; // so that a second failure is also reported
+    m_hasFailed = false; // reset, so that a second failure is also reported
     if (TKSV_Device_SetModes(&modes) != 0)
         emit failed();
 }

@@ -22,7 +22,7 @@ QIcon icon(const char *name, Token token, Token whenOn);
 QIcon applicationIcon();
 
 /// Returns the icon as a pixmap, for purposes that do not support icons. The pixmap does not adapt
-/// to changes of the theme. `size` is in device-independent pixels. `widget` determines the device
+/// when the theme changes. `size` is in device-independent pixels. `widget` determines the device
 /// pixel ratio.
 QPixmap iconPixmap(const char *name, Token token, int size, const QWidget *widget);
 

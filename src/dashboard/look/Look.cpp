@@ -45,7 +45,8 @@ void useStyle()
         QApplication::setStyle(QLatin1String(STYLE));
 }
 
-// A label keeps the colour that links had when its text was set.
+// Updates the colour of links in all labels by setting their texts again. A label keeps the colour
+// that links had when its text was set.
 void colorLinksAgain()
 {
     for (QWidget *widget : QApplication::allWidgets()) {

@@ -35,7 +35,7 @@ public:
     void setSystemShade(Shade shade);
     QColor color(Token token) const { return tokenColor(token, shade()); }
 
-    /// Returns the size in pixels, scaled with the application font.
+    /// Converts a size in pixels at 100 % text size to pixels at the current text size.
     int px(int at100Percent) const;
     /// Returns the size of the application font in pixels.
     int em() const;
@@ -66,14 +66,14 @@ private:
     QString m_sheet;
 };
 
-/// Returns the size in pixels, scaled with the application font. A font size of 14 pixels
-/// corresponds to 100 %.
+/// Converts a size in pixels at 100 % text size to pixels at the current text size. The text size
+/// is 100 % if the application font has a size of 14 pixels.
 inline int px(int at100Percent)
 {
     return Look::instance().px(at100Percent);
 }
 
-/// Returns the font with a size in pixels, scaled with the application font, and a weight.
+/// Returns the font with this weight and size. The size is in pixels at 100 % text size.
 QFont sized(QFont font, int at100Percent, QFont::Weight weight);
 
 } // namespace Dashboard

@@ -30,7 +30,7 @@ public:
     void restore();
 
 private:
-    std::map<const char *, QByteArray> m_previous; // null if the variable was not set
+    std::map<const char *, QByteArray> m_previous; // the value is null if it was not set
 };
 
 } // namespace Dashboard

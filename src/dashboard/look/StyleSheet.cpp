@@ -92,7 +92,7 @@ QString withSizes(const QString &sheet, double scale)
         const int size = takeNumber(sheet, &at);
         const int less = sheet.mid(at, 1) == QLatin1String("-") ? takeNumber(sheet, &(++at)) : 0;
         if (sheet.mid(at, unit.size()) != unit)
-            continue; // a colour
+            continue; // a colour, not a size
         result += sheet.mid(end, mark - end) + QString::number(qRound(size * scale) - less) + unit;
         end = at + unit.size();
     }

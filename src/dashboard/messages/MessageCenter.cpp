@@ -42,8 +42,8 @@ void MessageCenter::renewSimKey()
     look();
 }
 
-/// If the device disappears, its messages stay visible until another SIM is known, because the
-/// device may return with the same SIM.
+/// Selects the messages of the current SIM. If the device disappears, its messages stay visible
+/// until another SIM is known, because the device may return with the same SIM.
 void MessageCenter::look()
 {
     const DeviceStatus &status = m_device->status();

@@ -16,7 +16,7 @@ namespace Dashboard
 namespace
 {
 
-const int OLD_DAYS = 7;      // days; the card shows the age of the balance from this age on
+const int OLD_DAYS = 7;      // the card shows the age of a balance that is at least this old
 const int WIDE_HEIGHT = 196; // in pixels at 100 % text size
 const int REPLY_LINES = 3;   // the maximum for a reply that does not contain a balance
 
@@ -112,7 +112,7 @@ QLayout *BalanceCard::makeValidity()
 
 QWidget *BalanceCard::makeButtons()
 {
-    setMargins(m_buttonRow, 0, 8, 0, 0); // keeps the distance from a validity of two lines
+    setMargins(m_buttonRow, 0, 8, 0, 0); // the text above the buttons may have two lines
     setSpacing(m_buttonRow, 8);
     setButtonIcon(m_topUp, "topup", Token::HeroA);
     setButtonIcon(m_ask, "refresh", Token::OnHero);
@@ -153,7 +153,7 @@ int BalanceCard::rowWidth() const
     return width - m_buttonRow->spacing();
 }
 
-/// The icons of the two buttons with texts are only decoration.
+/// Shows or hides the icons of the "top up" and "ask again" buttons, which are only decoration.
 void BalanceCard::showIcons(bool areShown)
 {
     if (areShown == !m_ask->icon().isNull())

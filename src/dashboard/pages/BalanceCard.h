@@ -21,7 +21,7 @@ struct BalanceView {
     AccountEntry entry; // the most recent reply to the balance code; null if there is none
     QDate validity;     // invalid if unknown
     QDateTime now;
-    bool isOutdated = false; // true if the balance may have changed since it was asked
+    bool isOutdated = false; // true if the balance may have changed since it was queried
     bool isInvented = false; // true during a demonstration
     bool isLow = false;
     bool canAsk = false;

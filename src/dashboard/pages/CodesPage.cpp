@@ -250,8 +250,8 @@ bool CodesPage::hasPreset(const QString &name) const
     return false;
 }
 
-/// Returns true if restarting the plug-in would create a button for a new code. The plug-in creates
-/// the buttons together with its window, so a restart deletes the transcript.
+/// Returns true if the plug-in can be restarted to create a button for a new code. There must be
+/// room for another button, and the transcript, which a restart deletes, must be empty.
 bool CodesPage::canMakePresets() const
 {
     return presets().size() < MOST_PRESETS && general().transcript().isEmpty();

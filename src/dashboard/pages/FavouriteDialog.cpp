@@ -23,7 +23,7 @@ const int CODE = Qt::UserRole;
 const int NAME = Qt::UserRole + 1;
 const int KEYS = Qt::UserRole + 2; // the keys of a chain; empty for a code
 const int EARLIER_NAME = Qt::UserRole + 3;
-const int LEAST_HEIGHT = 340; // of the dialog, in pixels at 100 % text size
+const int LEAST_HEIGHT = 340; // height of the dialog in pixels at 100 % text size
 const int LEAST_WIDTH = 320;
 
 bool isChecked(const QListWidgetItem *item)

@@ -27,8 +27,8 @@ class OperatorCodes;
 class PageColumn;
 class OperatorOption;
 
-/// Returns true if the page FirstRunPage is to be shown. Returns false during a demonstration, and
-/// if `settings` is null.
+/// Returns true if FirstRunPage should be shown. Returns false during a demonstration, and if
+/// `settings` is null.
 bool isFirstRunDue(const DashboardSettings *settings, const DeviceWatcher &device,
                    const OperatorCodes &codes);
 

@@ -57,7 +57,7 @@ bool isMove(int key)
            key == Qt::Key_PageDown;
 }
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int LEAST_WIDTH = 340;
 const int MARGIN = 8; // between the list and the edges of the window
 

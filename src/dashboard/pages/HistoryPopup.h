@@ -40,7 +40,7 @@ public:
     /// Sets whether the list opens when the user types. This is not useful while the user answers a
     /// menu.
     void setOpenedByTyping(bool isOpened) { m_isOpenedByTyping = isOpened; }
-    /// Opens the list with all codes.
+    /// Opens the list with all codes, and selects `code` or, if it is not listed, the first code.
     void open(const QString &code = QString());
     bool isOpen() const;
     HistoryView *view() const { return m_view; }

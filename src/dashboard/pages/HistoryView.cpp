@@ -98,7 +98,8 @@ void HistoryView::updateGeometries()
     placeFooter();
 }
 
-/// The base class has computed the range without the footer, which would hide the last row.
+/// Sets the range of the scroll bar. The base class ignores the footer, which would therefore hide
+/// the last row.
 void HistoryView::updateScrollRange()
 {
     const int rows = model() ? model()->rowCount() : 0;

@@ -35,7 +35,7 @@ const int MARGIN = 24;      // in pixels at 100 % text size
 const int GAP = 16;         // in pixels at 100 % text size
 const int SCROLL_BAR = 16;  // in pixels at 100 % text size
 const int WIDEST = 1040;    // in pixels at 100 % text size
-const double LARGE = 1.5;   // from this scale on, the favourites have a single column
+const double LARGE = 1.5;   // at this scale and above, the favourites have a single column
 const int NARROW_COUNT = 4; // the number of favourites in the narrow form
 
 QString shortWhen(const QDateTime &time, const QDateTime &now)

@@ -302,7 +302,7 @@ void MessageReader::retranslate()
 {
     const QString time = clockText(m_message.receivedAt);
     m_back->setText(dashboardText("MESSAGE_BACK"));
-    const bool isMirrored = layoutDirection() == Qt::RightToLeft; // also applies to Latin names
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft; // even for Latin names
     m_sender->setAlignment((isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
                            Qt::AlignVCenter);
     m_sender->setText(m_message.sender);

@@ -97,7 +97,7 @@ QWidget *MessagesPage::makeList()
     setSpacing(column, 10);
     column->addWidget(m_search);
     column->addWidget(makeFilters());
-    column->addWidget(m_empty, 1); // so that the filters do not move
+    column->addWidget(m_empty, 1); // stretched, so that the filters do not move
     column->addWidget(m_list, 1);
     return m_listSide;
 }
@@ -222,7 +222,8 @@ QModelIndex MessagesPage::chosen() const
     return m_list->selectionModel()->selectedIndexes().value(0);
 }
 
-/// In the narrow form, selecting a row with the arrow keys does not open the message.
+/// Shows the selected message. In the narrow form, selecting a row with the arrow keys does not
+/// open the message.
 void MessagesPage::onChosen()
 {
     if (m_form == Form::Narrow)

@@ -150,8 +150,8 @@ void StateStrip::makeRows()
     setForm(m_form);
 }
 
-/// The height depends only on the font. The heights of the rows are also fixed, so that their
-/// content does not move the widgets below the strip.
+/// Sets the height of the strip, which depends only on the font. The heights of the rows are also
+/// fixed, so that their content does not move the widgets below the strip.
 void StateStrip::updateHeight()
 {
     setFixedHeight(px(HEIGHT));
@@ -561,7 +561,7 @@ void StateStrip::addReason()
     m_rowLayout->addWidget(reason);
 }
 
-/// Adds the button that keeps the walk. It precedes the most recently sent codes.
+/// Adds the button that stores the walk as a chain. It precedes the most recently sent codes.
 void StateStrip::addKeep()
 {
     if (!m_isKeepOffered)

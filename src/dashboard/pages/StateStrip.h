@@ -25,7 +25,7 @@ class SecondsRing;
 struct CodeName {
     QString code;       // without numbers and PINs; see codeWithoutNumbers()
     QString name;       // may be empty
-    bool isOwn = false; // one of the user's own codes
+    bool isOwn = false; // true if this is one of the user's own codes
 };
 
 /**
@@ -45,7 +45,7 @@ public:
     void setSituation(const Situation &situation);
     /// Shows the progress of a chain, or the reason why it has stopped.
     void setChain(const ChainState &chain);
-    /// Sets whether there is a button that keeps the user's most recent walk through a menu.
+    /// Sets whether there is a button that stores the user's most recent walk as a chain.
     void setKeepOffered(bool isOffered);
     /// Sets the codes that are offered while no command is pending, starting with the newest one.
     void setRecent(const QList<CodeName> &codes);

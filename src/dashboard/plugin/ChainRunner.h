@@ -64,7 +64,7 @@ private:
 
     CommandMonitor *const m_monitor;
     std::optional<Chains::ChainRun> m_run;
-    std::optional<Reply> m_reply; // the reply to m_sent, as soon as it has arrived
+    std::optional<Reply> m_reply; // the reply to m_sent; absent until it arrives
     QString m_sent;
     unsigned long m_request = 0; // the number of the most recent request; see Session
     Chains::ChainStep m_step;    // the step at which the chain has stopped

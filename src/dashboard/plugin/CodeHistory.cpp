@@ -29,7 +29,7 @@ bool readLine(const QString &line, SentCode &sent)
 {
     const int tab = line.indexOf(QLatin1Char('\t'));
     sent.time = QDateTime::fromString(line.left(tab), Qt::ISODate);
-    sent.code = line.mid(tab + 1); // written without numbers
+    sent.code = line.mid(tab + 1); // numbers were hidden before the code was stored
     return tab > 0 && sent.time.isValid() && isKeepable(sent.code);
 }
 

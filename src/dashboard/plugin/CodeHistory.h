@@ -37,8 +37,8 @@ public:
     const QList<SentCode> &codes() const { return m_codes; }
     /// Sets whether the codes are stored on disk. If `isKept` is false, deletes the file.
     void setKept(bool isKept);
-    /// Sets whether codes are sent to an invented network. These codes have a list of their own,
-    /// which is only kept in memory.
+    /// Sets whether codes are sent to a simulated network. These codes have a separate list, which
+    /// is only kept in memory.
     void setInvented(bool isInvented);
     /// Sets the codes of the operator and of the user; see codeWithoutNumbers().
     void setTemplates(const QStringList &templates) { m_templates = templates; }
@@ -64,7 +64,9 @@ private:
     bool m_isKept = true;
     bool m_isInvented = false;
     QList<SentCode> m_codes;
-    QList<SentCode> m_others; // the codes of the network that is not in use: invented, or real
+    // The codes sent to real networks while m_isInvented is true, otherwise those sent to simulated
+    // networks.
+    QList<SentCode> m_others;
 };
 
 } // namespace Dashboard

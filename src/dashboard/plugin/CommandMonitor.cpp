@@ -20,8 +20,8 @@ namespace
 {
 
 const int TICK = 1000;         // ms
-const int MOST_RECENT = 50;    // codes
-const int GIVE_UP_SECONDS = 2; // added to the time-out of the plug-in, which does not report it
+const int MOST_RECENT = 50;    // the maximum number of codes that recent() returns
+const int GIVE_UP_SECONDS = 2; // added to the plug-in's time-out, if the plug-in cannot report it
 
 qint64 systemClock()
 {
@@ -212,8 +212,8 @@ void CommandMonitor::readReplies()
     }
 }
 
-/// Returns true if a window is waiting for a reply, or if a request is in flight that the plug-in
-/// has not given up.
+/// Returns true if a window is waiting for a reply, or if a request is in flight that has not timed
+/// out.
 bool CommandMonitor::isPending(const GeneralWindow &window)
 {
     const bool isWindowWaiting = UserActivity::isCommandPending();
@@ -308,7 +308,8 @@ TKSV_FailureInfo CommandMonitor::outcome() const
     return failure;
 }
 
-// The first command of the query may already have been sent, but m_session is not updated yet.
+// Records which requests belong to the query. The first of them may already have been sent, but
+// m_session is not updated yet.
 void CommandMonitor::setQuerying(bool isQuerying)
 {
     if (isQuerying)
@@ -378,8 +379,8 @@ int CommandMonitor::secondsSinceStart() const
     return int((m_clock() - m_start) / 1000);
 }
 
-/// Counts the seconds. Gives up the command if no general window is waiting and the plug-in's
-/// time-out has elapsed. The plug-in does not report the time-out of other windows.
+/// Counts the seconds. Treats the command as timed out if no general window is waiting and the
+/// plug-in's time-out has elapsed. The plug-in does not report the time-out of other windows.
 void CommandMonitor::tick()
 {
     if (!m_state.isPending())

@@ -162,12 +162,12 @@ private:
     QString m_menu;                  // the newest message that requires an answer
     bool m_hasNewMenu = false;       // true if the state does not contain m_menu yet
     TKSV_FailureInfo m_failure = {}; // valid if the state is Failed or Cancelled
-    qint64 m_start = 0;              // when the pending command was sent
+    qint64 m_start = 0;              // the time at which the pending command was sent
     bool m_isTranscriptChanged = false;
     // Request numbers; see TKSV_SessionInfo.
     unsigned long m_pendingRequest = 0; // valid if the state is Waiting or Queued
     unsigned long m_ownRequest = 0;     // the most recent request of a general window
-    unsigned long m_givenUp = 0;        // the request that the plug-in has given up
+    unsigned long m_givenUp = 0;        // the request that is treated as timed out
     unsigned long m_firstQuery = 0;     // the first request of the query; 0 if there was no query
     unsigned long m_lastQuery = 0;
     QStringList m_recent;

@@ -39,7 +39,8 @@ int rowToComplete(const QTableWidget *table)
     return row;
 }
 
-// The mouse reaches the cell through the hint. An open cell editor covers the hint.
+// Returns a label for a hint. Mouse events pass through the label to the cell below it, and an open
+// cell editor covers the label.
 QLabel *makeHint(QTableWidget *table, const char *textKey)
 {
     QLabel *hint = new QLabel(dashboardText(textKey), table->viewport());
@@ -70,7 +71,7 @@ EditorHints::EditorHints(QTableWidget *table)
 {
     table->setAccessibleDescription(dashboardText("EDITOR_HINT"));
     connect(table->model(), &QAbstractItemModel::dataChanged, this, &EditorHints::place);
-    // After the table has scrolled its cells.
+    // Queued, so that the hints are placed after the table has scrolled its cells.
     connect(table->verticalScrollBar(), &QScrollBar::valueChanged, this, &EditorHints::place,
             Qt::QueuedConnection);
     QMetaObject::invokeMethod(this, "place", Qt::QueuedConnection);

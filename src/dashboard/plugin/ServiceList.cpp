@@ -35,7 +35,8 @@ const KindOfService KINDS[] = {
     {"TRANSFER", "topup"}, {"CREDIT", "topup"},     {"BALANCE", "topup"},   {"ALERT", "bell"},
     {"NUMBER", "number"},  {"CALENDAR", "calendar"}};
 
-/// Text keys consist of upper-case words and do not depend on the language.
+/// Returns the icon for a service whose name has this text key. The icon depends on the words in
+/// the key, which are the same in every language.
 const char *iconOf(const QString &key, bool isByCode)
 {
     for (const KindOfService &kind : KINDS) {

@@ -13,7 +13,7 @@ namespace Dashboard
 struct Service {
     enum class Input { None, Number, Text };
 
-    int row = 0; // its position in the services window
+    int row = 0; // the position of the service in the services window
     QString name;
     bool isByCode = true; // true if the service sends a code, false if it sends a short message
     QString code;         // contains a placeholder if the service requires input

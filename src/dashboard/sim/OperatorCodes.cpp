@@ -19,7 +19,7 @@ namespace
 {
 
 const char DECLINED[] = "none";
-const int COUNTRY_DIGITS = 3; // the MCC of a network code (ITU-T E.212)
+const int COUNTRY_DIGITS = 3; // the length of the MCC in a network code (ITU-T E.212)
 
 /// Returns the folder of the configuration without codes.
 QString folderWithoutCodes()

@@ -61,7 +61,7 @@ void SimFollower::offer()
     m_finder.restart();
 }
 
-// Also informs the reply tap, because the message may have arrived before the tap was installed.
+// Informs the reply tap, because the message may have arrived before the tap was installed.
 void SimFollower::questionCame()
 {
     m_replies.expectAnswer();

@@ -58,7 +58,7 @@ private:
     QString m_language;
     QList<Thumbnail> m_thumbnails; // the pictures in the current language
     int m_pictures = 0;
-    QStringList m_transcript; // lines
+    QStringList m_transcript; // the lines of the transcript
 };
 
 /// Returns the visible texts of the widget and its descendants from top to bottom, one per line.

@@ -100,7 +100,7 @@ bool TourGuide::usePlugin(const TourChange *changes, int count)
                     m_library->change(name, changes[i].anchor, changes[i].before, changes[i].after);
     if (!isWritten)
         return TourAlbum::fail("TOUR_NOT_WRITTEN", name);
-    settle(); // so that deleteLater() deletes the closed frames
+    settle(); // deletes the closed frames, for which deleteLater() has been called
     return m_window->restartPlugin().step == PluginFailure::None || failHere();
 }
 

@@ -47,7 +47,7 @@ public:
     /// Selects the simulated network of the tour, with these changes to its scenario file.
     bool useNetwork(const TourChange *changes, int count);
     bool useNetwork() { return useNetwork(nullptr, 0); }
-    /// Restarts the plug-in with the installed configuration, with these changes to its files.
+    /// Restarts the plug-in with the installed configuration and these changes to its files.
     bool usePlugin(const TourChange *changes, int count);
     bool usePlugin() { return usePlugin(nullptr, 0); }
 

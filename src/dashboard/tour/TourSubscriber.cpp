@@ -206,7 +206,8 @@ bool walkFinding(TourGuide &guide)
 
 // ---- modems on 4G
 
-/// Shows a modem, because a simulated network would be asked for the type of contract meanwhile.
+/// Shows a modem instead of a demonstration, in which the dashboard would query the type of
+/// contract at the same time.
 bool walk4G(TourGuide &guide)
 {
     DeviceStatus status = ShownDevice::registered("Meridian Mobile", "00101");

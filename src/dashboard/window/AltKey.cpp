@@ -22,8 +22,8 @@ AltKey::AltKey(QWidget *window) : QObject(window), m_window(window)
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-// A combination such as Alt+1 is detected by its ShortcutOverride event, because its key press does
-// not arrive if it activates a shortcut.
+// Detects whether Alt is pressed alone. A combination such as Alt+1 is detected by its
+// ShortcutOverride event, because its key press does not arrive if it activates a shortcut.
 bool AltKey::eventFilter(QObject *watched, QEvent *event)
 {
     if (!watched->isWidgetType())

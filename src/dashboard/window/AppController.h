@@ -126,7 +126,7 @@ private:
     CommandMonitor m_monitor;
     DeviceChoice m_choice;
     bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
-    bool m_isRestartDue = false;  // the plug-in's folder has changed since the plug-in read it
+    bool m_isRestartDue = false;  // true if the plug-in must read its folder again
     QDateTime m_ownCodesTime; // the modification time of the user's codes when they were last read
     int m_windows = 0;        // a combination of SimWindow flags
     int m_awaitedFrame;

@@ -83,7 +83,8 @@ void Banners::setSuppressed(bool isSuppressed)
     refresh();
 }
 
-// In the narrow form, the buttons are below the text, because they do not fit next to it.
+// Arranges the widgets. In the narrow form, the buttons are below the text, because they do not fit
+// next to it.
 void Banners::layOut()
 {
     for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))

@@ -76,7 +76,7 @@ CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourite
     followSettings();
 }
 
-/// Keeps the codes of demonstrations apart from those of a SIM.
+/// Keeps the codes of demonstrations separate from those of a SIM.
 void CodesSetup::followDevice()
 {
     m_history.setInvented(m_controller->device().status().isSimulated);

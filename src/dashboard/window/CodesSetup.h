@@ -64,7 +64,7 @@ private:
     bool m_isOffered = false;
     QStringList m_known; // the user's codes when they were last read
     QStringList m_new;   // codes that the user has just saved
-    QString m_reported;  // the first code without a button, as the list of codes shows it
+    QString m_reported;  // the first new code without a button, as shown in the history
 };
 
 } // namespace Dashboard

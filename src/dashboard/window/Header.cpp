@@ -20,7 +20,7 @@ const int NARROW_HEIGHT = 60;
 const int SHOWN_DIGITS = 4;
 const int NUMBER_TIME = 10000; // ms
 
-// The columns of the layout. In the narrow form, the columns SimIcon, Sim and Eye are empty.
+// The columns of the layout. In the narrow form, the SimIcon, Sim and Eye columns are empty.
 enum Column { Operator, Kind, Bars, Signal, Gap, SimIcon, Sim, Eye, Bell, Menu };
 
 template <typename T>

@@ -100,8 +100,8 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
 {
     HostCore::HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
-    // Before the pages exist. Later, the style would have to be applied to all of their widgets
-    // again.
+    // These boxes must be set before the pages are constructed. Otherwise, the style would have to
+    // be applied to all widgets of the pages again.
     setBox(m_root, "root");
     setBox(m_stack, "page");
     makePages();
@@ -176,7 +176,7 @@ void MainWindow::followMessages()
     m_controller.start();
 }
 
-/// Shows the newest message on the page Home if it is unread or requires an answer.
+/// Shows the newest message on the Home page if it is unread or requires an answer.
 void MainWindow::showNewestMessage()
 {
     MessageStore &store = m_messages->store();
@@ -193,7 +193,7 @@ void MainWindow::showNewestMessage()
     m_home->page()->setMessage(shown);
 }
 
-/// Opens the message on the page Messages.
+/// Opens the message on the Messages page.
 void MainWindow::openMessage(qint64 id)
 {
     raiseAgain();
@@ -418,7 +418,7 @@ void MainWindow::showBanners()
     m_banners->setBanner(Banners::Restore, restore);
 }
 
-/// Returns the banner that tells where the new codes are that have no button.
+/// Returns the banner that offers to show new codes without a button in the history.
 Banner MainWindow::savedBanner() const
 {
     if (m_saved.isEmpty())

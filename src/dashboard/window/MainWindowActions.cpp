@@ -107,7 +107,7 @@ void MainWindow::makeShortcuts()
     addShortcut(QKeySequence(int(Qt::SHIFT) + Qt::Key_F6), [this] { m_regions.move(-1); });
 }
 
-/// Finds words in what the page shows: in the transcript, or in the messages.
+/// Starts a search: on the Codes page in the transcript, on any other page in the messages.
 void MainWindow::find()
 {
     if (currentPage() == PageId::Codes)
@@ -152,8 +152,8 @@ void MainWindow::showModemMenu()
     deviceMenu()->popup(line->mapToGlobal(QPoint()));
 }
 
-/// Deletes what the program has kept about the user. The key of the SIM is renewed last:
-/// by then, all entries that use the old key have been deleted.
+/// Deletes the data about the user that the program has stored. The key of the SIM is renewed last,
+/// when all entries that use the old key have been deleted.
 void MainWindow::deleteAll()
 {
     codes().deleteAll();

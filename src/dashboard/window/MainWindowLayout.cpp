@@ -57,8 +57,8 @@ QSize onScreen(const QSize &size)
     return size.boundedTo(QGuiApplication::primaryScreen()->availableSize() - DECORATION);
 }
 
-/// Invalidates the size hints of all layouts. For hidden pages, Qt keeps the old size hints, so the
-/// window could not become smaller than these.
+/// Invalidates the size hints of all layouts. For hidden pages, Qt keeps the old size hints, which
+/// would prevent the window from becoming smaller.
 void forgetSizes(QWidget *root)
 {
     for (QLayout *layout : root->findChildren<QLayout *>()) {

@@ -55,7 +55,7 @@ Page *MainWindow::makePage(PageId page)
     return m_home->page();
 }
 
-/// Adds a new page to the stack in its current state.
+/// Adds a new page to the stack, and applies the current form and the state of the device.
 void MainWindow::addPage(Page *page)
 {
     m_stack->addWidget(page);
@@ -101,7 +101,7 @@ Page *MainWindow::makeMessages()
 
 Page *MainWindow::makeSettings()
 {
-    deviceMenu()->fill(); // a button of the page computes the position from the size of the menu
+    deviceMenu()->fill(); // the button that opens the menu needs the size of the menu
     m_settingsPage = new SettingsPage(
         {m_settings, &device(), &operatorCodes(), deviceMenu(), m_menu->languageMenu()}, m_stack);
     followSettings();

@@ -148,7 +148,8 @@ bool OperatorChooser::mayBeSetAside(const QStringList &files, const QString &ope
                                     QLatin1String("IDS_NO")) == QMessageBox::Ok;
 }
 
-/// Explains why no operator can be chosen, with a button that leads to where one can.
+/// Explains why no operator can be chosen for the current device. The message box has a button that
+/// uses the modem instead of a demonstration or opens the Modem menu.
 void OperatorChooser::explainMissingNetwork()
 {
     const bool isSimulated = m_codes->isSimulated();
@@ -163,7 +164,7 @@ void OperatorChooser::explainMissingNetwork()
     QPushButton *wayOut = box->addButton(remedyText(remedy), QMessageBox::AcceptRole);
     setButtonKind(wayOut, "primary");
     box->setEscapeButton(box->addButton(dashboardText("SHEET_CLOSE"), QMessageBox::RejectRole));
-    // Queued, because the action may open a menu, which needs the box to be closed.
+    // Queued, because the remedy may open a menu, and the message box must be closed before.
     connect(
         wayOut, &QPushButton::clicked, this, [this, remedy] { emit remedyRequested(remedy); },
         Qt::QueuedConnection);

@@ -54,7 +54,8 @@ signals:
     void changed();
     /// Emitted with an error message in the user's language.
     void problem(const QString &text);
-    /// Emitted when the user has chosen this way to a SIM for which an operator can be chosen.
+    /// Emitted when no operator can be chosen for the current device, and the user has clicked the
+    /// button that selects another device.
     void remedyRequested(Remedy remedy);
 
 private:

@@ -89,8 +89,8 @@ QByteArray SingleInstance::sessionName(const QString &settingsFile)
     return QCryptographicHash::hash(session, QCryptographicHash::Sha256).toHex().left(32);
 }
 
-// Binding the name is atomic: even if several instances start at the same time, only one of them
-// succeeds.
+// Tries to become the first instance by binding the name of the socket. Binding is atomic: even if
+// several instances start at the same time, only one of them succeeds.
 void SingleInstance::start()
 {
     const int listener = makeSocket();
@@ -130,7 +130,8 @@ bool SingleInstance::askFirst(int socket) const
     return waitToRead(socket, ANSWER_LIMIT) && recv(socket, &answer, 1, 0) == 1 && answer == ANSWER;
 }
 
-// Does not wait for the request, because the other instance sends it as soon as it is connected.
+// Reads and answers the request of a later instance. Waits only briefly for the request, because
+// the later instance sends it as soon as it is connected.
 void SingleInstance::answer()
 {
     const int client = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);

@@ -69,8 +69,8 @@ void MainLoopThread::loop()
 {
     g_main_context_push_thread_default(m_context);
     g_main_loop_run(m_loop);
-    // Let the call-backs of calls that the last task has cancelled run, because they release their
-    // objects.
+    // Run the call-backs of the calls that the last task has cancelled, because these call-backs
+    // release their objects.
     while (g_main_context_iteration(m_context, FALSE)) {
     }
     g_main_context_pop_thread_default(m_context);

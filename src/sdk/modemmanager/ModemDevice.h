@@ -83,7 +83,7 @@ private:
     SignalConnections m_simSignals;
     bool m_enableWanted = false; // true if the modem must be enabled as soon as possible
     MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // most recent state that was at least LOCKED
-    bool m_hasModeChangeFailed = false; // true if the most recent call of setModes() has failed
+    bool m_hasModeChangeFailed = false; // true if the most recent call to setModes() has failed
     TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE; // problem of the most recent call
 };
 

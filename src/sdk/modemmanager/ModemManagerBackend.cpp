@@ -47,7 +47,7 @@ ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmen
     : m_watch(watch), m_equipmentId(std::move(equipmentId))
 {
     m_info.backend = TKSV_BACKEND_MODEMMANAGER;
-    m_info.isLooking = true; // until the first call of publish()
+    m_info.isLooking = true; // until the first call to publish()
 }
 
 /* ---- functions that may be called from any thread ---------------------------------------- */

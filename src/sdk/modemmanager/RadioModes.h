@@ -15,9 +15,10 @@ MMModemMode toModemMode(unsigned int modes);
 /// Returns the current setting of the modem, and the setting that withOlderModes() suggests.
 TKSV_ModesInfo modesOf(MMModem *modem);
 
-/// Returns the best supported setting that allows 2G or 3G. A setting that keeps all current
-/// generations is better than any other; otherwise, a setting is better the more generations it
-/// allows. Returns an empty setting if there is no such setting or if 2G or 3G is already allowed.
+/// Returns the best supported setting that allows 2G or 3G. Settings that keep all current
+/// generations are preferred to all others. Among equally preferred settings, the one with the most
+/// generations is the best. Returns an empty setting if no supported setting allows 2G or 3G, or if
+/// 2G or 3G is already allowed.
 TKSV_Modes withOlderModes(const TKSV_Modes &current, const std::vector<TKSV_Modes> &supported);
 
 } // namespace Tksv

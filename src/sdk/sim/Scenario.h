@@ -95,7 +95,7 @@ struct Scenario {
     Milliseconds delay = Milliseconds(0);
     bool smsReady = true;
     bool isRoaming = false;
-    unsigned int modes = TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G; // initially allowed
+    unsigned int modes = TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G; // allowed at the start
     std::optional<Amount> balance;
     std::string currency;
 
