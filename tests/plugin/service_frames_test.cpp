@@ -245,8 +245,8 @@ void ServiceFramesTest::closeRequestLeavesTheUssdSmsWindow()
     QVERIFY(frame() && frame()->isVisible());
 }
 
-/// Tests that close requests are ignored after the USSD-SMS window was opened, because the service
-/// then stores the type of this window.
+/// Tests that OnCloseButtonClicked() does not close the general window after the USSD-SMS window
+/// was opened, because the service has stored the type of the USSD-SMS window instead.
 void ServiceFramesTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
 {
     service()->DoModal();
@@ -254,7 +254,7 @@ void ServiceFramesTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
     service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
     QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
     QVERIFY(general->isVisible());
-    // Has the same effect as closing the window.
+    // Closing a frame calls this slot.
     QVERIFY(QMetaObject::invokeMethod(service(), "OnDlgCloseEvent"));
     drainEvents();
     QVERIFY(!general);

@@ -19,7 +19,7 @@
 namespace
 {
 
-// The largest value that the type can represent. No dialog uses it.
+// The largest value that _COMPONENT can represent. No dialog uses it.
 const int LAST_COMPONENT = 7;
 
 int number(const char *name, int otherwise)

@@ -217,7 +217,8 @@ void QueuedSignalsTest::mutexMayStandWhereAnotherStood()
     for (int round = 0; round < ROUNDS; ++round) {
         QMutex first;
         QMutex second;
-        // The order of locking alternates, but each round uses new mutexes.
+        // The order of locking alternates, but each round has new mutexes at the same addresses, so
+        // a deadlock is not possible.
         QMutex *outer = round % 2 ? &first : &second;
         QMutex *inner = round % 2 ? &second : &first;
         const QMutexLocker outerLock(outer);

@@ -280,7 +280,7 @@ void SdkDevice::infoCallbackIsOneAtMost()
 {
     Gate first;
     Gate second;
-    // Without a request, nothing happens in this network.
+    // This network does not change by itself, so only useNetwork() causes a call.
     QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
     QCOMPARE(TKSV_Device_SetInfoCallback(openGate, &second), 0L);

@@ -261,7 +261,8 @@ void SdkFailures::cancelledRequestGetsNoReplyThatWaitedItsTurn()
     QCOMPARE(request(u"*131#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*100#"), 0L);
-    // When the message has been sent, the reply to the request is in the queue.
+    // The device replies before it sends the message, so after the result of the message, the reply
+    // is in the queue.
     QVERIFY(sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(1));
     QCOMPARE(TKSV_Device_CancelRequest(), 0L);
     gate.open();

@@ -190,7 +190,7 @@ void SdkSession::textDuringARequestWaitsForItsEnd()
     QVERIFY(l.replies.waitFor(2));
     QVERIFY(l.replies.all()[0].text == "reply");
     QVERIFY(l.replies.all()[1].text == "news");
-    // Final, because the reply has ended the session.
+    // The message no longer waits for an answer, because the reply has ended the session.
     QCOMPARE(l.replies.all()[1].type, int(UssdFinal));
 }
 
@@ -261,7 +261,8 @@ void SdkSession::stopDropsWhatWaits()
 
 void SdkSession::stopDoesNotWaitForEver()
 {
-    // These objects are never destroyed, because the thread still uses them, as at program exit.
+    // The thread of the service still uses these objects when the function returns, as it may when
+    // a program exits. Therefore, they are never deleted.
     static Gate gate;
     static Gate left;
     static auto *service = new EventService("test");

@@ -149,7 +149,7 @@ void SdkSimulator::replacedRequestTakesNoMoney()
         request(u"*100#");
     }));
     QCOMPARE(answerTo(u"*100#"), is("0 10.00 EUR"));
-    // This reply arrives later than the reply to the replaced request would have arrived.
+    // When this reply arrives, the reply to the replaced request would already have arrived.
     QCOMPARE(answerTo(u"*103#"), is("0 late"));
     QCOMPARE(answerTo(u"*100#"), is("0 15.00 EUR"));
 }
@@ -190,7 +190,8 @@ void SdkSimulator::eventHappensAgain()
                         "[Event reset]\nAfter=5\nEvery=10\nDeviceEvent=6601\nAway=1\n"),
              std::string());
     QVERIFY(received().deviceEvents.waitFor(4));
-    // The first event is from the previous network.
+    // The first of the four events is from the previous network, so this is the third event of the
+    // scenario.
     QCOMPARE(received().deviceEvents.all()[3], 6601);
 }
 

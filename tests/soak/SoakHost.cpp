@@ -28,7 +28,8 @@ const int PULSE = 5;            // milliseconds of real time
 const int STEP = 1000;          // simulated milliseconds per pulse
 const int LONGEST_REPLY = 5000; // milliseconds; the longest delay in the scenarios
 const int REPLY_LIMIT = 31000;  // milliseconds; slightly longer than the plug-in waits
-// In milliseconds. The second wait takes real time, so it is short.
+// The time limit for a reply is in simulated milliseconds. The time limit for disarming the
+// previous time-out is in real milliseconds, so it is short.
 const ReplyTimes TIMES = {30000, 20};
 const int RESTART_EVERY = 16; // number of rounds between restarts
 const QSize PAGE_SIZE(800, 600);
@@ -269,7 +270,8 @@ void SoakHost::loseDevice()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// Advances the clock until all replies are due. Replies to later commands arrive in pulse().
+/// Makes all pending replies due, and waits until more than `before` commands have an outcome. The
+/// replies to commands that are sent meanwhile become due when pulse() advances the clock.
 void SoakHost::waitForAnswer(qint64 before)
 {
     SoakClock::advance(LONGEST_REPLY);

@@ -94,7 +94,7 @@ void tsanMutexUnlock(QMutex *mutex)
     __tsan_mutex_post_unlock(mutex, 0);
 }
 
-// Another mutex may be created at the same address later.
+// The sanitizer has to forget the mutex, because another mutex may later have the same address.
 #define MUTEX_DESTROY "_ZN6QMutexD1Ev"
 void tsanMutexDestroy(QMutex *mutex) STANDS_FOR(MUTEX_DESTROY);
 void tsanMutexDestroy(QMutex *mutex)
@@ -108,7 +108,7 @@ void tsanMutexDestroy(QMutex *mutex)
 
 namespace
 {
-// Inside Qt, QWaitCondition unlocks the mutex and locks it again.
+// Informs the sanitizer that QWaitCondition unlocks the mutex, waits, and locks the mutex again.
 template <typename Wait>
 bool waitWithout(QMutex *mutex, Wait wait)
 {
@@ -202,8 +202,8 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
 
 // ---- QThread -----------------------------------------------------------------------------------
 
-// Everything that a thread has done happens before its wait() returns. Qt emits finished() from the
-// thread before it wakes up the waiting threads.
+// Everything that a thread has done happens before QThread::wait() returns in another thread. Qt
+// emits finished() in the ending thread before it wakes up the threads that wait for it.
 #define THREAD_START "_ZN7QThread5startENS_8PriorityE"
 void tsanThreadStart(QThread *thread, QThread::Priority priority) STANDS_FOR(THREAD_START);
 void tsanThreadStart(QThread *thread, QThread::Priority priority)

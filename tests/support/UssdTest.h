@@ -45,6 +45,7 @@ protected:
     virtual void tearDownClass() {}
 
     // ---- log lines of all threads
+    /// Requires a warning that contains `part` before the test function ends.
     void expectWarning(const QString &part);
     void expectWarning(const char *part) { expectWarning(QString::fromUtf8(part)); }
 

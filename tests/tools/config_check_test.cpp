@@ -142,8 +142,8 @@ void addMistake(const char *title, const char *before, const char *after, const 
                          << QString::fromLatin1(text) << hasLine;
 }
 
-/// Replaces the last letter of a name. `at` is the index before the name. For an element, the name
-/// in the end tag is also replaced.
+/// Replaces the last letter of a name. `at` is the index of the character before the name. For an
+/// element, the name in the end tag is also changed.
 QString misspelt(const QString &whole, int at, const QString &name, bool isElement)
 {
     const QString other = name.left(name.length() - 1) + QLatin1Char('q');
@@ -760,7 +760,8 @@ void ConfigCheckTest::everyPrefixIsChecked()
     QVERIFY(wide.tables.isEmpty());
 }
 
-/// Tests that the trace finds the same elements as the plug-in's own search in random documents.
+/// Tests that ForwardTrace, with which the check searches a file, finds the same elements in random
+/// documents as ForwardXml, with which the plug-in searches a file.
 void ConfigCheckTest::traceWalksAsThePluginDoes()
 {
     QRandomGenerator random(20261120);

@@ -76,7 +76,7 @@ QDBusMessage busCall(const char *interface, const char *method)
 
 } // namespace
 
-// The launcher stops its bus only if it receives SIGTERM.
+// The launcher of the accessibility bus stops the bus only if it receives SIGTERM.
 PrivateDesktop::~PrivateDesktop()
 {
     m_launcher.stop(STOP_LIMIT);
@@ -134,8 +134,8 @@ QString PrivateDesktop::startAccessibility()
     std::vector<std::string> command = {"env"};
     for (const char *name : names)
         command.push_back(std::string(name) + '=' + values.value(text(name)).toStdString());
-    // The launcher stores the properties in GSettings. Without the service of dconf, its default
-    // backend would immediately reset them.
+    // The launcher stores the properties that switchOn() sets in GSettings. The default backend of
+    // GSettings, dconf, would immediately reset them, because its service is not running.
     command.push_back("GSETTINGS_BACKEND=memory");
     command.insert(command.end(), {LAUNCHER, "--launch-immediately"});
     if (!m_launcher.start(command, local(m_folder + text("/accessibility.log"))))
@@ -170,8 +170,8 @@ bool PrivateDesktop::switchOn(const char *property)
     return bus->call(call, QDBus::Block, LIMIT).type() == QDBusMessage::ReplyMessage;
 }
 
-/// Starts the registry by calling it for the first time. This must happen before a program
-/// searches for the registry.
+/// Starts the registry of accessible programs by calling one of its methods. This must happen
+/// before a program searches for the registry.
 bool PrivateDesktop::startRegistry()
 {
     Bus bus(m_accessibilityBus);

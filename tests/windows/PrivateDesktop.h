@@ -8,10 +8,10 @@
 #include "PrivateBus.h"
 
 /**
- * An X server without a screen, a session bus and an accessibility bus for test programs. They are
- * isolated from the desktop of the developer, and stop when the object is destroyed. If the test
- * crashes, only the accessibility bus daemon keeps running. Must be created on a thread that exists
- * for as long as the object.
+ * A session bus, an accessibility bus, and an X server without a screen, for test programs. They
+ * are isolated from the desktop of the developer, and stop when the object is destroyed. If the
+ * test crashes, only the accessibility bus daemon keeps running. Must be created on a thread that
+ * exists for as long as the object.
  */
 class PrivateDesktop
 {

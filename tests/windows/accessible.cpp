@@ -90,7 +90,8 @@ bool isWritten(const AccessibleTree &tree, const QRegularExpression &pattern)
     return false;
 }
 
-/// Waits until the action is possible. Stores the first match in `found`.
+/// Waits until the pattern matches the content of a text field ("read"), no line of the tree
+/// ("gone"), or a line of the tree (all other actions). Stores the first match in `found`.
 bool waitFor(const AccessibleTree &tree, const QString &action, const QString &pattern,
              Accessible &found)
 {

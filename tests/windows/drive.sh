@@ -199,7 +199,8 @@ large_letters()
     quit
 }
 
-# Starts a compositor with this backend, and runs the program in it.
+# start_in_wayland BACKEND SOCKET: starts weston with this backend and this Wayland socket, runs the
+# program in it, and waits until the program has received a response.
 start_in_wayland()
 {
     printf '[shell]\npanel-position=none\n' >"$HOME/weston.ini"
@@ -226,8 +227,9 @@ until_logged()
     done
 }
 
-# Sends a code in a nested compositor, whose new window has the keyboard focus, and starts the
-# program in a compositor without input devices. The mouse pointer does not move.
+# Sends a code from the program in a nested compositor. The script uses only the keyboard, because
+# the new window of the compositor has the keyboard focus. Also starts the program in a compositor
+# without input devices.
 wayland()
 {
     say 'Wayland'
