@@ -5,7 +5,7 @@
 
 #include "profiles/USSDEditCmd.h"
 
-/** Tests the singleton: its results if no window is open, its log lines, and its destruction. */
+/** Tests the CUSSDService singleton: its results without a window, its log, and its destruction. */
 class ServiceInstanceTest : public ServiceTest
 {
     Q_OBJECT

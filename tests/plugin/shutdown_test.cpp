@@ -250,8 +250,8 @@ void ShutdownTest::run(const QString &calls)
     }
 }
 
-/// Completes the shut-down after the given calls and unloads the library. Checks that no window,
-/// call-back or code remains.
+/// Makes the three shut-down calls unless `calls` ends with them, and unloads the library. Checks
+/// that no window or call-back remains.
 void ShutdownTest::finish(const QString &calls)
 {
     if (!calls.endsWith(QLatin1String("uod")))

@@ -87,7 +87,8 @@ ProviderChoice choiceFor(const QString &network)
     return chooseProvider(g_database, query);
 }
 
-/// Returns the usable codes. They are determined without the code under test.
+/// Returns the USSD codes for balance, own number and top-up, with "%s" in place of the input. Does
+/// not use the code under test.
 QStringList usableCodes(const Provider &provider)
 {
     QStringList codes;

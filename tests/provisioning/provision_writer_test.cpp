@@ -272,7 +272,8 @@ void ProvisionWriterTest::unwritableFolderIsSaid()
     QVERIFY(outcome.problem.contains(target()));
 }
 
-/// Runs the writer in a child process that is killed before this step. Returns the exit code.
+/// Runs the writer in a child process that is killed before disk operation number `step`. Returns
+/// the exit code.
 int ProvisionWriterTest::runKilled(int step, const char *name)
 {
     const pid_t child = fork();

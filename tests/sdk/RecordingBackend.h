@@ -9,7 +9,7 @@
 namespace Tksv
 {
 
-/** A backend that records all requests. It accepts them unless `status` is set to another value. */
+/** A backend that records the requests that it accepts. `status` makes it reject requests. */
 class RecordingBackend : public Backend
 {
 public:

@@ -92,8 +92,8 @@ namespace SdkFixture
 Received &received();
 
 /// Switches the device to the network that the scenario describes, and waits until the device is
-/// ready. The times in the scenario start at this moment. Returns an empty string on success,
-/// otherwise an error message. Each type of device has its own implementation.
+/// ready. The times in the scenario are relative to this moment. Returns an empty string on
+/// success, otherwise an error message. Each type of device has its own implementation.
 std::string useNetwork(const std::string &scenario);
 
 /** The differences between types of devices. */
@@ -126,7 +126,7 @@ public:
     InsideUssd &operator=(const InsideUssd &) = delete;
 };
 
-/// Sends the command. Returns the result of the request function.
+/// Sends the command. Returns the result of TKSV_USSDSrv_Request().
 long request(const std::u16string &text, int *status = nullptr);
 /// Sends the command and waits for the response. If there is no response, its type is -1.
 Response ask(const std::u16string &text);

@@ -821,7 +821,8 @@ void SdkPromises::textOfTheNetworksOwnCanBeAnswered()
     QCOMPARE(shown(ask(u"1").text), shown(u"yes"));
 }
 
-/// Sends a request that is pending when the network-initiated message arrives.
+/// Sends a request that is still pending when the network sends a message. `push` contains the
+/// scenario lines that define this message. Returns false if the machine is too slow.
 bool requestDuring(const std::string &push)
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n"

@@ -37,7 +37,8 @@ std::string local(const QString &path)
     return QFile::encodeName(path).toStdString();
 }
 
-/// Returns the first line of output, which a server writes when it accepts connections.
+/// Returns the first line that a server writes to the descriptor. The server writes this line when
+/// it accepts connections.
 QString firstLine(int descriptor)
 {
     QByteArray line;
