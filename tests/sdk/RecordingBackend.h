@@ -9,7 +9,7 @@
 namespace Tksv
 {
 
-/** A backend that records the requests that it accepts. `status` makes it reject requests. */
+/** A backend that records the requests that it accepts. Set `status` to make it reject them. */
 class RecordingBackend : public Backend
 {
 public:
