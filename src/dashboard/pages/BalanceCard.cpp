@@ -262,7 +262,9 @@ void BalanceCard::showButtons()
     m_topUp->setEnabled(!isAsking);
     m_ask->setText(isAsking ? dashboardText("HOME_ASKING").arg(m_view.askingSeconds)
                             : dashboardText(isAsked ? "HOME_ASK_AGAIN" : "HOME_ASK_NOW"));
-    m_ask->setEnabled(m_view.canAsk && !isAsking);
+    // While the reply is pending, the button stays enabled, because a disabled button would lose
+    // the focus. HomePage ignores the button during this time.
+    m_ask->setEnabled(m_view.canAsk || isAsking);
     m_ask->setToolTip(m_view.isMenuOpen ? dashboardText("HOME_END_MENU_FIRST") : QString());
     m_show->setVisible(isAsked);
     m_show->setAccessibleName(dashboardText("HOME_SHOW_REPLY"));

@@ -278,10 +278,33 @@ void HomePage::look()
     m_isLooking = false;
     if (!isVisible())
         return;
+    QWidget *const focus = window()->focusWidget();
     lookAtSituation();
     lookAtFavourites();
-    if (!isNormal())
-        return;
+    if (isNormal())
+        lookAtAccount();
+    keepFocus(focus);
+}
+
+/// If the update has disabled the widget with the focus, moves the focus to the button that shows
+/// the progress. Returns the focus when a later update enables the widget again.
+void HomePage::keepFocus(QWidget *focus)
+{
+    QPushButton *const ask = m_balance->askButton();
+    if (focus && isAncestorOf(focus) && focus->isVisible() && !focus->isEnabled()) {
+        if (ask->isVisible() && ask->isEnabled())
+            ask->setFocus();
+        m_disabledFocus = focus;
+        m_refuge = window()->focusWidget();
+    } else if (m_disabledFocus && m_disabledFocus->isEnabled()) {
+        if (m_refuge == window()->focusWidget())
+            m_disabledFocus->setFocus();
+        m_disabledFocus.clear();
+    }
+}
+
+void HomePage::lookAtAccount()
+{
     lookAtBalance();
     lookAtTiles();
     const bool hasChart = m_form != Form::Narrow && !m_codes.balance.isEmpty();
@@ -372,8 +395,8 @@ void HomePage::lookAtTiles()
     lookAtNumber();
     lookAtValidity();
     lookAtData();
-    for (AccountTile *tile : {m_validity, m_data})
-        tile->setActionEnabled(canSend());
+    m_validity->setActionEnabled(canSend() || askingSeconds(validityEntry().code) >= 0);
+    m_data->setActionEnabled(canSend() || askingSeconds(m_codes.data) >= 0);
     const bool areBoth = m_form == Form::Narrow && !m_number->isHidden() && !m_data->isHidden();
     m_tileLine->setVisible(areBoth);
     m_tiles->setVisible(!m_number->isHidden() || !m_validity->isHidden() || !m_data->isHidden());

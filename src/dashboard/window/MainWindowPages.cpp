@@ -17,6 +17,7 @@
 #include "pages/MessagesPage.h"
 #include "pages/ServicesPage.h"
 #include "pages/SettingsPage.h"
+#include "sim/SimWindows.h"
 
 namespace Dashboard
 {
@@ -89,8 +90,11 @@ Page *MainWindow::makeCodes()
 Page *MainWindow::makeServices()
 {
     m_servicesPage = new ServicesPage(this, m_stack);
-    connect(&m_controller, &AppController::windowsOffered, m_servicesPage,
-            &ServicesPage::readServices);
+    const auto followWindows = [this] {
+        m_servicesPage->setOffered(m_controller.windows() & SIM_WINDOW_SERVICES);
+    };
+    connect(&m_controller, &AppController::windowsOffered, m_servicesPage, followWindows);
+    followWindows();
     return m_servicesPage;
 }
 
