@@ -96,6 +96,7 @@ private slots:
     void theMessageIsOpened();
     void nothingIsWiderThanTheWindow_data();
     void nothingIsWiderThanTheWindow();
+    void theCardsFollowTheFont();
 
 private:
     void record(const char *code, const char *text)
@@ -527,6 +528,33 @@ void HomePageTest::nothingIsWiderThanTheWindow()
                                 .arg(place.left())
                                 .arg(place.right())));
     }
+}
+
+/// Tests that a smaller font makes the cards smaller, and that a change of the form does not make
+/// their buttons smaller.
+void HomePageTest::theCardsFollowTheFont()
+{
+    Look::instance().start();
+    const QFont before = QApplication::font();
+    const auto useFont = [before](int pixels) {
+        QFont font = before;
+        font.setPixelSize(pixels);
+        QApplication::setFont(font);
+    };
+    useFont(16);
+    record("*100#", "Balance: 12.50 EUR. Valid until 31 December 2027");
+    open();
+    useFont(14);
+    for (const Form form : {Form::Wide, Form::Narrow, Form::Wide}) {
+        m_page->setForm(form);
+        drainEvents();
+    }
+    const QWidget *tile = m_page->findChild<QWidget *>(QLatin1String("Dashboard_NumberTile"));
+    QCOMPARE(tile->findChild<QPushButton *>()->height(), 40);
+    QCOMPARE(tile->minimumHeight(), 100);
+    QCOMPARE(m_page->findChild<QWidget *>(QLatin1String("Dashboard_BalanceCard"))->minimumHeight(),
+             196);
+    QApplication::setFont(before);
 }
 
 USSD_TEST_MAIN(HomePageTest)

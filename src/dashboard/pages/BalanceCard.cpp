@@ -62,6 +62,12 @@ BalanceCard::BalanceCard(QWidget *parent)
         label->setWordWrap(true);
     setSpacing(m_layout, 4);
     setNarrow(false);
+    connect(&Look::instance(), &Look::changed, this, &BalanceCard::limitHeight);
+}
+
+void BalanceCard::limitHeight()
+{
+    setMinimumHeight(m_isNarrow ? 0 : px(WIDE_HEIGHT));
 }
 
 QLayout *BalanceCard::makeHead()
@@ -199,9 +205,9 @@ void BalanceCard::setNarrow(bool isNarrow)
     if (isNarrow)
         setMargins(m_layout, 20, 14, 20, 16);
     else
-        setMargins(m_layout, 24, 18, 24, 20);
+        setMargins(m_layout, 24, 20, 24, 20);
     m_chipRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    setMinimumHeight(isNarrow ? 0 : px(WIDE_HEIGHT));
+    limitHeight();
     // In the narrow form, there is no space for a third button in the row.
     if (isNarrow)
         m_validityRow->addWidget(m_show);
