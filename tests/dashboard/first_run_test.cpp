@@ -33,6 +33,7 @@ private slots:
     void anIntegratorsCodesNeedNoFirstRun();
     void nothingIsSent();
     void theLanguageCanBeChosen();
+    void theNoteHasAnIcon();
     void nothingIsCutInTheSmallestWindow_data();
     void nothingIsCutInTheSmallestWindow();
 
@@ -185,6 +186,18 @@ void FirstRunTest::theLanguageCanBeChosen()
             action->trigger();
     }
     QCOMPARE(language->accessibleName(), QLatin1String("Sprache, Deutsch"));
+}
+
+/// Tests that the note fits into a single line next to its icon.
+void FirstRunTest::theNoteHasAnIcon()
+{
+    window().resize(1120, 720);
+    drainEvents();
+    const QWidget *icon = part<QWidget>("Dashboard_FirstRunCostsIcon");
+    const QLabel *note = part<QLabel>("Dashboard_FirstRunCosts");
+    QVERIFY(icon->isVisible());
+    QVERIFY(note->height() < 2 * note->fontMetrics().height());
+    QVERIFY(icon->geometry().right() < note->geometry().left());
 }
 
 void FirstRunTest::nothingIsCutInTheSmallestWindow_data()

@@ -11,6 +11,7 @@
 #include "device/DeviceWatcher.h"
 #include "Languages.h"
 #include "look/Controls.h"
+#include "look/Look.h"
 #include "OperatorOption.h"
 #include "PageColumn.h"
 #include "ProviderChoice.h"
@@ -27,6 +28,8 @@ namespace
 
 const int WIDEST = 640; // in pixels at 100 % text size
 const int SHOWN_DIGITS = 4;
+const int COSTS_ICON = 16;
+const int COSTS_GAP = 8;
 
 bool isAboutModem(Situation::Kind kind)
 {
@@ -138,27 +141,50 @@ FirstRunPage::FirstRunPage(DashboardSettings *settings, const DeviceWatcher *dev
       m_choice(new FirstRunStep("Dashboard_FirstRunChoice", this)), m_list(new QVBoxLayout),
       m_group(new QButtonGroup(this)), m_demonstration(makeButton("ghost", this)),
       m_notNow(makeButton("", this)), m_use(makeButton("primary", this)),
-      m_costs(makeLabel("cap", this))
+      m_costsIcon(new IconView(this)), m_costs(makeLabel("cap", this))
 {
     QVBoxLayout *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->addWidget(m_column);
     m_intro->setWordWrap(true);
-    m_costs->setWordWrap(true);
     m_card->installEventFilter(this);
-    m_costs->setAlignment(Qt::AlignCenter);
     makeCard();
     m_language->setObjectName(QLatin1String("Dashboard_FirstRunLanguage"));
     m_language->setMenu(languageMenu);
     m_column->column()->addWidget(m_language, 0, Qt::AlignTrailing);
     m_column->column()->addStretch(1);
     m_column->column()->addWidget(m_card);
-    m_column->column()->addWidget(m_costs);
+    m_column->column()->addLayout(makeCosts());
     m_column->column()->addStretch(1);
     connect(m_group, &QButtonGroup::idClicked, this, &FirstRunPage::showChoice);
     for (const FirstRunStep *step : {m_modem, m_sim, m_choice})
         connect(step, &FirstRunStep::chosen, this, &FirstRunPage::chosen);
     retranslate();
+}
+
+QLayout *FirstRunPage::makeCosts()
+{
+    m_costsIcon->setIcon("lock", Token::Text3, COSTS_ICON);
+    m_costsIcon->setObjectName(QLatin1String("Dashboard_FirstRunCostsIcon"));
+    m_costs->setWordWrap(true);
+    m_costs->setObjectName(QLatin1String("Dashboard_FirstRunCosts"));
+    QHBoxLayout *row = new QHBoxLayout;
+    setSpacing(row, COSTS_GAP);
+    row->addStretch(1);
+    row->addWidget(m_costsIcon, 0, Qt::AlignTop);
+    row->addWidget(m_costs);
+    row->addStretch(1);
+    return row;
+}
+
+/// Keeps the note in one line if there is space, because a label that wraps its text prefers two.
+void FirstRunPage::limitCosts()
+{
+    m_costs->ensurePolished();
+    const int room = m_card->width() - m_costsIcon->sizeHint().width() - 3 * px(COSTS_GAP);
+    if (room > 0)
+        m_costs->setFixedWidth(
+            qMin(m_costs->fontMetrics().horizontalAdvance(m_costs->text()) + 2, room));
 }
 
 void FirstRunPage::makeCard()
@@ -326,6 +352,7 @@ void FirstRunPage::retranslate()
     m_title->setText(dashboardText("FIRST_TITLE"));
     m_intro->setText(dashboardText("FIRST_INTRO"));
     m_costs->setText(dashboardText("FIRST_COSTS"));
+    limitCosts();
     m_demonstration->setText(dashboardText("FIRST_DEMONSTRATION"));
     m_notNow->setText(dashboardText("FIRST_NOT_NOW"));
     for (int i = 0; i < m_options.size(); ++i) {
@@ -351,8 +378,10 @@ void FirstRunPage::setForm(Form form)
 bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
-    if (watched == m_card && (type == QEvent::Resize || type == QEvent::LayoutRequest))
+    if (watched == m_card && (type == QEvent::Resize || type == QEvent::LayoutRequest)) {
         arrangeButtons();
+        limitCosts();
+    }
     return Page::eventFilter(watched, event);
 }
 

@@ -11,6 +11,7 @@ class QBoxLayout;
 class QButtonGroup;
 class QFrame;
 class QLabel;
+class QLayout;
 class QMenu;
 class QPushButton;
 class QVBoxLayout;
@@ -101,6 +102,8 @@ private:
     bool hasModem() const;
     bool hasSim() const;
     QString choiceText() const;
+    QLayout *makeCosts();
+    void limitCosts();
 
     DashboardSettings *const m_settings;
     const DeviceWatcher *const m_device;
@@ -122,6 +125,7 @@ private:
     QPushButton *m_demonstration;
     QPushButton *m_notNow;
     QPushButton *m_use;
+    IconView *m_costsIcon;
     QLabel *m_costs;
     QBoxLayout *m_buttons = nullptr;
 };

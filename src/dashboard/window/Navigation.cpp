@@ -60,7 +60,7 @@ NavigationButton::NavigationButton(const char *icon, const char *objectName, QWi
 
 Navigation::Navigation(QWidget *parent)
     : QFrame(parent), m_logo(makeLabel("logo", this)), m_title(makeLabel("h3", this)),
-      m_line(makeLine(this)), m_device(new DeviceLine(this)), m_buttons(new QButtonGroup(this))
+      m_line(makeLine(this)), m_buttons(new QButtonGroup(this))
 {
     setObjectName(QLatin1String("Dashboard_Navigation"));
     for (const Entry &each : ENTRIES) {
@@ -68,6 +68,7 @@ Navigation::Navigation(QWidget *parent)
         m_buttons->addButton(button, int(each.page));
         connect(button, &QPushButton::clicked, this, [this, &each] { emit chosen(each.page); });
     }
+    m_device = new DeviceLine(this); // after the buttons, so that Tab reaches them first
     makeBrand();
     retranslate();
     setCurrent(PageId::Home);
