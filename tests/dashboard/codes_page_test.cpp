@@ -33,6 +33,7 @@ protected:
 
 private slots:
     void theMarginsAreClipped();
+    void theFocusIsVisible();
     void theNarrowFormHidesThePresets();
     void theEditorDoesNotBringThePresetsBack();
     void aSmallPageScrollsBelowTheStrip();
@@ -151,6 +152,23 @@ void CodesPageTest::theMarginsAreClipped()
     QCOMPARE(first->mapTo(codes().area(), QPoint()).x(), 24);
     QCOMPARE(codes().area()->width() - transcript().right() - 1, 24);
     QVERIFY(first->isVisible());
+}
+
+/// Tests that a low page shows the command field that the user types into.
+void CodesPageTest::theFocusIsVisible()
+{
+    codes().resize(900, 300);
+    codes().activateWindow();
+    settle();
+    for (QWidget *focus : {static_cast<QWidget *>(general().commandEdit()),
+                           static_cast<QWidget *>(presets().first())}) {
+        focus->setFocus();
+        settle();
+        QCOMPARE(QApplication::focusWidget(), focus);
+        const QRect shown =
+            QRect(focus->mapTo(codes().area()->viewport(), QPoint()), focus->size());
+        QVERIFY(codes().area()->viewport()->rect().contains(shown));
+    }
 }
 
 void CodesPageTest::theNarrowFormHidesThePresets()

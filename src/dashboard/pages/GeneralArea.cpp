@@ -1,5 +1,6 @@
 #include "GeneralArea.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QLayout>
@@ -42,6 +43,15 @@ GeneralArea::GeneralArea(LoadedPlugin *plugin, QWidget *parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
+    connect(qApp, &QApplication::focusChanged, this, &GeneralArea::showFocus);
+}
+
+/// Scrolls to the widget with the focus, so that users see what they type.
+void GeneralArea::showFocus()
+{
+    QWidget *const focus = QApplication::focusWidget();
+    if (focus && m_canvas->isAncestorOf(focus))
+        ensureWidgetVisible(focus, 0, COMPACT_MARGIN);
 }
 
 void GeneralArea::showWindow()
@@ -96,7 +106,9 @@ bool GeneralArea::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_canvas && event->type() == QEvent::Resize) {
         m_text->setGeometry(m_canvas->rect());
         fit();
-    } else if (watched == m_canvas && event->type() == QEvent::LayoutRequest) {
+    } else if (watched == m_canvas &&
+               (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)) {
+        // A hidden canvas does not receive layout requests.
         makeRoom();
         fit();
     } else if (m_isCompact && event->type() == QEvent::ShowToParent && isPresetPart(watched)) {
@@ -147,6 +159,7 @@ void GeneralArea::fit()
         return;
     QRect rect = m_canvas->rect().marginsAdded(clipped());
     m_plugin->plugin()->FitSize(rect);
+    showFocus();
 }
 
 // ---- preset buttons ------------------------------------------------------------------------
