@@ -26,6 +26,7 @@ private slots:
     void itIsShownInsteadOfThePagesUntilItIsFinished();
     void notNowIsRemembered();
     void stepsTickThemselvesOff();
+    void theFocusFollowsTheSteps();
     void ofSeveralOperatorsNobodyIsChosen();
     void theChosenOperatorIsUsed();
     void withoutOperatorsCodesIsLast();
@@ -106,6 +107,20 @@ void FirstRunTest::stepsTickThemselvesOff()
     tell(sim("99902"));
     QVERIFY(!enable->isVisible());
     QCOMPARE(part<QLabel>("Dashboard_FirstRunSimTitle")->text(), QLatin1String("SIM ready"));
+}
+
+/// Tests that the focus follows the steps, and does not reach the button for the demonstration.
+void FirstRunTest::theFocusFollowsTheSteps()
+{
+    tell(modemInfo(TKSV_DEVICE_DISABLED));
+    QPushButton *enable = part<QWidget>("Dashboard_FirstRunSim")->findChild<QPushButton *>();
+    enable->setFocus();
+    tell(modemInfo(TKSV_DEVICE_SEARCHING));
+    QVERIFY(enable->isHidden());
+    QCOMPARE(window().focusWidget(), first());
+    tell(sim("99902"));
+    QCOMPARE(window().focusWidget(), options().first());
+    QVERIFY(!options().first()->isChecked());
 }
 
 void FirstRunTest::ofSeveralOperatorsNobodyIsChosen()

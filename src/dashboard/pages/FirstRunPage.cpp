@@ -248,11 +248,9 @@ void FirstRunPage::showSituation(const Situation &situation)
 void FirstRunPage::showSteps()
 {
     const DeviceStatus &status = m_device->status();
-    const Remedy remedy = m_situation.remedies.value(0, Remedy::None);
     m_modem->setDone(m_situation.icon ? m_situation.icon : "modem", hasModem());
     m_sim->setDone(hasModem() && m_situation.icon ? m_situation.icon : "sim", hasSim());
-    m_modem->setRemedy(hasModem() ? Remedy::None : remedy);
-    m_sim->setRemedy(hasModem() && !hasSim() ? remedy : Remedy::None);
+    showRemedies();
     if (hasModem())
         m_modem->setTexts(dashboardText("FIRST_MODEM_FOUND"), status.source);
     else
@@ -266,6 +264,32 @@ void FirstRunPage::showSteps()
     else
         m_sim->setTexts(dashboardText("FIRST_SIM_LATER"), QString());
     showChoice();
+}
+
+/// Shows the button of the step that is not completed. If the button of a completed step had the
+/// focus, the page keeps the focus until passFocusOn() finds the next step. Otherwise, the next key
+/// could start the demonstration.
+void FirstRunPage::showRemedies()
+{
+    const QWidget *const focus = window()->focusWidget();
+    const Remedy remedy = m_situation.remedies.value(0, Remedy::None);
+    m_modem->setRemedy(hasModem() ? Remedy::None : remedy);
+    m_sim->setRemedy(hasModem() && !hasSim() ? remedy : Remedy::None);
+    if (focus && (focus == m_modem->button() || focus == m_sim->button()) && focus->isHidden())
+        setFocus();
+    passFocusOn();
+}
+
+void FirstRunPage::passFocusOn()
+{
+    if (window()->focusWidget() != this)
+        return;
+    for (FirstRunStep *step : {m_modem, m_sim}) {
+        if (!step->button()->isHidden())
+            return step->button()->setFocus();
+    }
+    if (!m_options.isEmpty())
+        m_options.first()->setFocus();
 }
 
 /// Returns the text of the third step.
@@ -297,6 +321,7 @@ void FirstRunPage::listOperators()
     if (isCertain && m_providers.size() == 1)
         m_options.first()->setChecked(true);
     retranslate();
+    passFocusOn();
 }
 
 void FirstRunPage::addOption(const QString &title, const QString &text)

@@ -44,6 +44,7 @@ public:
     void setTexts(const QString &title, const QString &text);
     /// Shows the button for the remedy, or hides it if the remedy is Remedy::None.
     void setRemedy(Remedy remedy);
+    QPushButton *button() const { return m_button; }
 
 signals:
     void chosen(Dashboard::Remedy remedy);
@@ -99,6 +100,8 @@ private:
     void finish();
     void showChoice();
     void showSteps();
+    void showRemedies();
+    void passFocusOn();
     bool hasModem() const;
     bool hasSim() const;
     QString choiceText() const;
