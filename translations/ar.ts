@@ -2225,6 +2225,10 @@
         <translation>اللوحة تعمل بالفعل. نافذتها الآن في المقدمة وتحتفظ بجهازها.</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>اللوحة تعمل بالفعل. نافذتها الآن في المقدمة وتحتفظ بلغتها وسجلها.</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>تطلب نصًا</translation>
     </message>

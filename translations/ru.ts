@@ -2224,6 +2224,10 @@
         <translation>Панель уже запущена. Её окно теперь впереди и сохраняет своё устройство.</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>Панель уже запущена. Её окно теперь впереди и сохраняет свой язык и журнал.</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>запрашивает текст</translation>
     </message>

@@ -87,11 +87,14 @@ QString useDevice(DeviceChoice *choice)
 }
 
 /// Returns the exit code for an instance that exits because another instance is already running.
-/// Prints an error if the arguments specify a device, because the running instance keeps its
-/// device.
+/// Prints an error if the arguments contain options that have no effect on the running instance.
 int leaveToFirst(const Arguments &arguments)
 {
-    return namesDevice(arguments) ? fail(dashboardText("CLI_DEVICE_STAYS")) : EXIT_GOOD;
+    if (namesDevice(arguments))
+        return fail(dashboardText("CLI_DEVICE_STAYS"));
+    const bool hasOptions =
+        !arguments.language.isEmpty() || arguments.verbose || !arguments.logFile.isEmpty();
+    return hasOptions ? fail(dashboardText("CLI_OPTIONS_STAY")) : EXIT_GOOD;
 }
 
 /// Sets the icon of the program's windows. Wayland compositors use the icon of the desktop entry
