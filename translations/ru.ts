@@ -1433,7 +1433,7 @@
     </message>
     <message>
         <source>DEVICE_NOT_PERMITTED_TEXT</source>
-        <translation>Этот компьютер не разрешает вам использовать модем. Администратор может разрешить это для вашей учётной записи.</translation>
+        <translation>Этот компьютер не разрешает вам использовать модем. Администратор может вам это разрешить.</translation>
     </message>
     <message>
         <source>DEVICE_NO_SIM</source>

@@ -6,6 +6,7 @@
 
 #include "base/ClockText.h"
 #include "base/DashboardText.h"
+#include "base/Isolate.h"
 #include "look/Controls.h"
 #include "look/Icons.h"
 #include "look/Look.h"
@@ -151,7 +152,7 @@ private:
         drawText(QRect(end - width, top, width, height), time, timeFont, Token::Text2,
                  Qt::AlignRight | Qt::AlignVCenter);
         const QRect sender(textStart(), top, end - width - px(8) - textStart(), height);
-        drawText(sender, m_message.sender, fontOf(14, QFont::DemiBold), Token::Text,
+        drawText(sender, isolatedWords(m_message.sender), fontOf(14, QFont::DemiBold), Token::Text,
                  Qt::AlignLeft | Qt::AlignVCenter);
     }
 
