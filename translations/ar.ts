@@ -1870,7 +1870,7 @@
     </message>
     <message>
         <source>HEADER_SIM_ENDING</source>
-        <translation>الشريحة ••%1</translation>
+        <translation>الشريحة ⁦••%1⁩</translation>
     </message>
     <message>
         <source>HEADER_SHOW_NUMBER</source>
