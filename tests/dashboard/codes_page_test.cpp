@@ -33,7 +33,8 @@ protected:
 
 private slots:
     void theMarginsAreClipped();
-    void theFocusIsVisible();
+    void theFieldIsVisibleWhileTheUserTypes();
+    void theFieldGetsTheFocusAfterAMenu();
     void theNarrowFormHidesThePresets();
     void theEditorDoesNotBringThePresetsBack();
     void aSmallPageScrollsBelowTheStrip();
@@ -154,20 +155,41 @@ void CodesPageTest::theMarginsAreClipped()
     QVERIFY(first->isVisible());
 }
 
-/// Tests that a low page shows the command field that the user types into.
-void CodesPageTest::theFocusIsVisible()
+/// Tests that a low page scrolls to the command field when the user types or moves the focus to it,
+/// and not when the plug-in disables the field or gives it the focus. Otherwise, the preset buttons
+/// would move while the user is pressing them.
+void CodesPageTest::theFieldIsVisibleWhileTheUserTypes()
 {
     codes().resize(900, 300);
     codes().activateWindow();
     settle();
-    for (QWidget *focus : {static_cast<QWidget *>(general().commandEdit()),
-                           static_cast<QWidget *>(presets().first())}) {
-        focus->setFocus();
-        settle();
-        QCOMPARE(QApplication::focusWidget(), focus);
-        const QRect shown =
-            QRect(focus->mapTo(codes().area()->viewport(), QPoint()), focus->size());
-        QVERIFY(codes().area()->viewport()->rect().contains(shown));
+    QLineEdit *field = general().commandEdit();
+    QScrollBar *bar = codes().area()->verticalScrollBar();
+    const auto isShown = [this, field] {
+        const QWidget *viewport = codes().area()->viewport();
+        return viewport->rect().contains(QRect(field->mapTo(viewport, QPoint()), field->size()));
+    };
+    bar->setValue(0);
+    field->setFocus(Qt::OtherFocusReason);
+    receive(u"Balance");
+    QCOMPARE(general().lastReceived(), QLatin1String("Balance"));
+    QCOMPARE(QApplication::focusWidget(), field);
+    QCOMPARE(bar->value(), 0);
+    QTest::keyClick(field, Qt::Key_1);
+    QVERIFY(isShown());
+    bar->setValue(0);
+    field->clearFocus();
+    field->setFocus(Qt::ShortcutFocusReason);
+    QVERIFY(isShown());
+}
+
+void CodesPageTest::theFieldGetsTheFocusAfterAMenu()
+{
+    codes().activateWindow();
+    for (void (StateStrip::*signal)() : {&StateStrip::menuEnded, &StateStrip::dismissed}) {
+        presets().first()->setFocus();
+        (codes().strip()->*signal)();
+        QCOMPARE(QApplication::focusWidget(), general().commandEdit());
     }
 }
 

@@ -1,9 +1,9 @@
 #include "GeneralArea.h"
 
-#include <QApplication>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 
 #include "IUIPlugin.h"
 #include "plugin/LoadedPlugin.h"
@@ -27,6 +27,16 @@ bool isPresetPart(const QObject *object)
            name == QLatin1String("USSDUIPlugin_AdvancedDialog_InfoNumLabel");
 }
 
+/// Returns true if the user types or has moved the focus with a key. The plug-in also moves the
+/// focus when a reply arrives.
+bool isByKeyboard(const QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        return true;
+    return event->type() == QEvent::FocusIn &&
+           static_cast<const QFocusEvent *>(event)->reason() == Qt::ShortcutFocusReason;
+}
+
 } // namespace
 
 GeneralArea::GeneralArea(LoadedPlugin *plugin, QWidget *parent)
@@ -43,15 +53,13 @@ GeneralArea::GeneralArea(LoadedPlugin *plugin, QWidget *parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    connect(qApp, &QApplication::focusChanged, this, &GeneralArea::showFocus);
 }
 
-/// Scrolls to the widget with the focus, so that users see what they type.
-void GeneralArea::showFocus()
+/// Scrolls to the command field, so that users see what they type.
+void GeneralArea::showField()
 {
-    QWidget *const focus = QApplication::focusWidget();
-    if (focus && m_canvas->isAncestorOf(focus))
-        ensureWidgetVisible(focus, 0, COMPACT_MARGIN);
+    if (QLineEdit *field = general().commandEdit())
+        ensureWidgetVisible(field, 0, COMPACT_MARGIN);
 }
 
 void GeneralArea::showWindow()
@@ -64,6 +72,8 @@ void GeneralArea::showWindow()
     m_isShown = true;
     general().hideUnusedPresets();
     watchPresets();
+    if (QLineEdit *field = general().commandEdit())
+        field->installEventFilter(this);
     setWindowEnabled(m_isEnabled);
     makeRoom();
     fit();
@@ -115,6 +125,9 @@ bool GeneralArea::eventFilter(QObject *watched, QEvent *event)
         QMetaObject::invokeMethod(
             this, [this] { hidePresets(); }, Qt::QueuedConnection);
     } else if (watched != m_canvas) {
+        if (watched->objectName() == QLatin1String(GeneralWindow::COMMAND_EDIT) &&
+            isByKeyboard(event))
+            showField();
         return QScrollArea::eventFilter(watched, event);
     }
     return false;
@@ -159,7 +172,6 @@ void GeneralArea::fit()
         return;
     QRect rect = m_canvas->rect().marginsAdded(clipped());
     m_plugin->plugin()->FitSize(rect);
-    showFocus();
 }
 
 // ---- preset buttons ------------------------------------------------------------------------

@@ -48,7 +48,7 @@ private:
     QMargins clipped() const;
     QMargins compactMargins() const;
     void makeRoom();
-    void showFocus();
+    void showField();
     void fit();
     void watchPresets();
     void hidePresets();
