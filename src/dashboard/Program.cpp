@@ -95,10 +95,9 @@ int leaveToFirst(const Arguments &arguments)
 }
 
 /// Sets the icon of the program's windows. Wayland compositors use the icon of the desktop entry
-/// instead.
-void identifyWindows()
+/// instead. Decoding the icon takes longer than painting the window, so the icon is set afterwards.
+void setIcon()
 {
-    QGuiApplication::setDesktopFileName(QLatin1String("ussd-dashboard"));
     QApplication::setWindowIcon(applicationIcon());
 }
 
@@ -173,9 +172,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     const SingleInstance instance(SingleInstance::sessionName(settings.file()));
     if (instance.role() == SingleInstance::Later)
         return leaveToFirst(arguments);
-    // Sets the layout direction and Qt's own texts, which requires the QApplication.
-    HostCore::Languages::setCurrent(HostCore::Languages::current());
-    identifyWindows();
+    HostCore::Languages::applyToApplication();
+    QGuiApplication::setDesktopFileName(QLatin1String("ussd-dashboard"));
     startLook(settings);
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);
@@ -192,6 +190,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     ProfileKeeper profiles(ProfileBackup::ofUser());
     window.setProfiles(&profiles);
     window.show();
+    QObject::connect(&shown, &FirstPaint::painted, &window, &setIcon);
     QObject::connect(&shown, &FirstPaint::painted, &profiles, &ProfileKeeper::start);
     QObject::connect(&shown, &FirstPaint::painted, &window, &MainWindow::loadPlugin);
     sayWhatIsMissing(settings, &window);
