@@ -95,7 +95,8 @@ private:
             return;
         QRect day = m_row;
         day.setHeight(px(DAY_HEIGHT));
-        drawText(day, m_day, fontOf(13, STRONG_WEIGHT), Token::Text2, Qt::AlignLeft | Qt::AlignVCenter);
+        drawText(day, m_day, fontOf(13, STRONG_WEIGHT), Token::Text2,
+                 Qt::AlignLeft | Qt::AlignVCenter);
         m_row.setTop(day.bottom() + 1);
     }
 

@@ -142,6 +142,7 @@ PluginFailure AppController::restartPlugin()
 PluginFailure AppController::startWith(const PluginFailure &failure)
 {
     m_ownCodesTime = ownCodesTime();
+    m_started = failure;
     m_monitor.forget();
     warnAboutPaleTranscript();
     emit pluginStarted(failure);
