@@ -94,6 +94,7 @@ private slots:
     void withoutADeviceTheLastBalanceIsKnown();
     void aLowBalanceIsMarked();
     void theMessageIsOpened();
+    void cardsAreHiddenUntilTheyAreNeeded();
     void nothingIsWiderThanTheWindow_data();
     void nothingIsWiderThanTheWindow();
     void theCardsFollowTheFont();
@@ -497,6 +498,19 @@ void HomePageTest::theMessageIsOpened()
     QCOMPARE(chosen.size(), 1);
     m_page->setMessage(HomeMessage());
     QVERIFY(!row->isVisible());
+}
+
+/// Measuring a card that is not needed loads its fonts, which would slow down the start of the
+/// program.
+void HomePageTest::cardsAreHiddenUntilTheyAreNeeded()
+{
+    const QWidget *card = m_page->findChild<BalanceCard *>();
+    const QWidget *state = m_page->findChild<StateCard *>();
+    QVERIFY(!card->isVisibleTo(m_page.data()));
+    QVERIFY(!state->isVisibleTo(m_page.data()));
+    open();
+    QVERIFY(card->isVisible());
+    QVERIFY(!state->isVisible());
 }
 
 void HomePageTest::nothingIsWiderThanTheWindow_data()

@@ -7,6 +7,7 @@
 #include "DeviceTest.h"
 #include "ExtendDialog.h"
 #include "IUSSD.h"
+#include "pages/CodesPage.h"
 #include "plugin/CodeHistory.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/PrivatePluginFolder.h"
@@ -30,6 +31,10 @@ protected:
     void tearDown() override;
 
 private slots:
+    void theCodesPageIsMadeForADevice();
+    void theCodesPageIsMadeBeforeItsDeviceSends();
+    void keysMakeTheCodesPage_data();
+    void keysMakeTheCodesPage();
     void aDemonstrationIsMarkedInEveryLanguage();
     void aModemIsNoDemonstration();
     void withoutAModemNothingIsInvented();
@@ -209,6 +214,49 @@ void ModemWindowTest::withoutAModemNothingIsInvented()
     QVERIFY(trouble().contains(QLatin1String("ModemManager")));
     QCOMPARE(presets(), 0);
     QCOMPARE(window().controller().windows(), int(SIM_WINDOW_GENERAL));
+}
+
+void ModemWindowTest::theCodesPageIsMadeForADevice()
+{
+    tell(modemInfo(TKSV_DEVICE_ABSENT));
+    openOnHome();
+    loadPlugin();
+    QVERIFY(!part<CodesPage>("Dashboard_CodesPage"));
+    tell(modemWithSim());
+    QVERIFY(part<CodesPage>("Dashboard_CodesPage"));
+    QVERIFY(page().isComplete());
+    QCOMPARE(window().currentPage(), PageId::Home);
+}
+
+void ModemWindowTest::theCodesPageIsMadeBeforeItsDeviceSends()
+{
+    openOnHome();
+    QVERIFY(!part<CodesPage>("Dashboard_CodesPage")); // not before the first paint
+    loadPlugin();
+    QVERIFY(part<CodesPage>("Dashboard_CodesPage"));
+    QVERIFY(page().isComplete());
+}
+
+void ModemWindowTest::keysMakeTheCodesPage_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("code") << int(Qt::Key_L);
+    QTest::newRow("history") << int(Qt::Key_H);
+}
+
+void ModemWindowTest::keysMakeTheCodesPage()
+{
+    QFETCH(int, key);
+    tell(modemInfo(TKSV_DEVICE_ABSENT));
+    openOnHome();
+    loadPlugin();
+    for (int times = 0; times < 2; ++times) { // the second key belongs to the page
+        window().showPage(PageId::Home);
+        QTest::keyClick(&window(), Qt::Key(key), Qt::ControlModifier);
+        QCOMPARE(window().currentPage(), PageId::Codes);
+        QVERIFY(page().commandEdit()->isVisible());
+        drainEvents();
+    }
 }
 
 void ModemWindowTest::aModemHasNoPresetsOfAnotherOperator()

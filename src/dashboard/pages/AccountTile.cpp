@@ -94,9 +94,9 @@ void AccountTile::arrange()
     for (int i = 0; i < m_grid->rowCount(); ++i)
         m_grid->setRowStretch(i, 0);
     setBox(this, m_isNarrow ? "" : "card");
-    m_icon->setVisible(!m_isNarrow);
-    m_disc->setVisible(m_isNarrow);
-    m_action->setVisible(!m_isNarrow);
+    setShown(m_icon, !m_isNarrow);
+    setShown(m_disc, m_isNarrow);
+    setShown(m_action, !m_isNarrow);
     setLabelType(m_value, m_isNarrow ? "strong" : "value");
     if (m_isNarrow)
         arrangeNarrow();

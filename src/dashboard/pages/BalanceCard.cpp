@@ -172,6 +172,8 @@ void BalanceCard::showIcons(bool areShown)
 /// others. If this is not sufficient, arranges the buttons vertically.
 void BalanceCard::arrangeButtons()
 {
+    if (!isVisible())
+        return; // the card is resized when it is shown
     const QMargins margins = m_layout->contentsMargins();
     const int room = width() - margins.left() - margins.right();
     const QString text = dashboardText("HOME_SHOW_REPLY");

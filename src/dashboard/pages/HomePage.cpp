@@ -58,6 +58,12 @@ HomePage::HomePage(const Parts &parts, QWidget *parent)
     makeFavourites();
     makeMessage();
     m_column->column()->addStretch(1);
+    // Hides the cards until look() has decided which of them to show. The layout of the window
+    // would load the fonts of all cards, and each font takes more than one per cent of the start
+    // time.
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_state, m_account, m_tiles, m_favourites})
+        part->hide();
     connect(m_state, &StateCard::chosen, this,
             [this](Remedy remedy) { m_parts.actions->perform(remedy); });
     connect(m_parts.store, &AccountStore::changed, this, &HomePage::lookSoon);
@@ -228,9 +234,13 @@ int HomePage::rowWidth(const QList<QWidget *> &widgets)
     return width;
 }
 
-/// Arranges the cards vertically if there is not enough space for them in a row.
+/// Arranges the cards vertically if there is not enough space for them in a row. Does nothing while
+/// they are hidden, because measuring them loads fonts that are not needed yet. look() arranges
+/// them when it shows them.
 void HomePage::arrangeCards()
 {
+    if (!isVisible() || !isNormal())
+        return;
     const int room = width() - px(2 * MARGIN + SCROLL_BAR);
     const bool isNarrow = m_form == Form::Narrow;
     const bool isAccountColumn = isNarrow || rowWidth({m_balance, m_chart}) > room;

@@ -133,6 +133,7 @@ bool AppController::renewOwnCodes()
 /// `start` makes the follower observe the SIM after the start of the plug-in.
 PluginFailure AppController::startWith(const PluginFailure &failure, void (SimFollower::*start)())
 {
+    m_started = failure;
     m_monitor.forget();
     warnAboutPaleTranscript();
     emit pluginStarted(failure);

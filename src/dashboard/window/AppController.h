@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 #include "device/DeviceChoice.h"
 #include "device/DeviceWatcher.h"
@@ -62,6 +63,8 @@ public:
 
     /// Returns the windows that are offered for the SIM, as a combination of SimWindow flags.
     int windows() const { return m_windows; }
+    /// Returns the result of the last attempt to start the plug-in, or nothing before the first.
+    const std::optional<PluginFailure> &started() const { return m_started; }
     bool isDetectionOn() const { return m_isDetectionOn; }
     /// Enables or disables the prepaid/postpaid query and stores the decision in the settings.
     void setDetection(bool isOn);
@@ -130,7 +133,8 @@ private:
     DeviceChoice m_choice;
     bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
     bool m_isRestartDue = false;  // true if the plug-in must read its folder again
-    int m_windows = 0;            // a combination of SimWindow flags
+    std::optional<PluginFailure> m_started;
+    int m_windows = 0; // a combination of SimWindow flags
     int m_awaitedFrame;
     QTimer m_frameDelay;
 };

@@ -193,6 +193,15 @@ void CodesSetup::onPluginStarted(const PluginFailure &failure)
     readCodes();
 }
 
+void CodesSetup::catchUp()
+{
+    if (!m_controller->started())
+        return;
+    onPluginStarted(*m_controller->started());
+    if (m_controller->plugin()->isUsable())
+        offerWindow();
+}
+
 void CodesSetup::offerWindow()
 {
     const bool isOffered = m_controller->windows() & SIM_WINDOW_GENERAL;

@@ -31,6 +31,10 @@ public:
 
     CodesPage *page() const { return m_page; }
 
+    /// Displays the plug-in's window, or why the plug-in cannot be loaded, if the plug-in was
+    /// started before this object was constructed.
+    void catchUp();
+
     /// Opens the list of codes with the first of the new codes selected.
     void showNewCodes();
 

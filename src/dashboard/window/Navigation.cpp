@@ -112,11 +112,10 @@ void Navigation::layOut()
     for (const Entry &each : ENTRIES)
         entry(each.page)->setArrangement(arrangementOf(m_form));
     m_logo->setFixedSize(px(LOGO), px(LOGO));
-    m_logo->setVisible(!isNarrow);
-    m_title->setVisible(isWide);
-    m_line->setVisible(isWide);
-    m_device->setVisible(isWide);
-    entry(PageId::Settings)->setVisible(!isNarrow);
+    setShown(m_logo, !isNarrow);
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_title, m_line, m_device})
+        setShown(widget, isWide);
+    setShown(entry(PageId::Settings), !isNarrow);
     if (isNarrow)
         layOutBar();
     else
