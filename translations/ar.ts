@@ -1870,7 +1870,7 @@
     </message>
     <message>
         <source>HEADER_SIM_ENDING</source>
-        <translation>الشريحة ••%1</translation>
+        <translation>الشريحة ⁦••%1⁩</translation>
     </message>
     <message>
         <source>HEADER_SHOW_NUMBER</source>
@@ -2223,6 +2223,10 @@
     <message>
         <source>CLI_DEVICE_STAYS</source>
         <translation>اللوحة تعمل بالفعل. نافذتها الآن في المقدمة وتحتفظ بجهازها.</translation>
+    </message>
+    <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>اللوحة تعمل بالفعل. نافذتها الآن في المقدمة وتحتفظ بلغتها وسجلها.</translation>
     </message>
     <message>
         <source>SERVICE_ASKS_TEXT</source>

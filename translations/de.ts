@@ -2226,6 +2226,10 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Das Dashboard läuft schon. Sein Fenster ist jetzt vorn und behält sein Gerät.</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>Das Dashboard läuft schon. Sein Fenster ist jetzt vorn und behält seine Sprache und sein Protokoll.</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>fragt nach einem Text</translation>
     </message>

@@ -2225,6 +2225,10 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>The dashboard already runs. Its window is in front now and keeps its device.</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>The dashboard already runs. Its window is in front now and keeps its language and its log.</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>asks for a text</translation>
     </message>

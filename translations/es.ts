@@ -2225,6 +2225,10 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>El panel ya está abierto. Su ventana está ahora delante y conserva su dispositivo.</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>El panel ya está abierto. Su ventana está ahora delante y conserva su idioma y su registro.</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>pide un texto</translation>
     </message>

@@ -2226,6 +2226,10 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Le tableau de bord est déjà ouvert. Sa fenêtre est maintenant au premier plan et garde son appareil.</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>Le tableau de bord est déjà ouvert. Sa fenêtre est maintenant au premier plan et garde sa langue et son journal.</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>demande un texte</translation>
     </message>

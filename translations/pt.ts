@@ -2226,6 +2226,10 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>O painel já está aberto. A sua janela está agora à frente e mantém o dispositivo.</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>O painel já está aberto. A sua janela está agora à frente e mantém o idioma e o registo.</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>pede um texto</translation>
     </message>

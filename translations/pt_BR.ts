@@ -2226,6 +2226,10 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
         <translation>O painel já está aberto. A sua janela está agora à frente e mantém o dispositivo.</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>O painel já está aberto. A janela dele está agora à frente e mantém o idioma e o registro.</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>pede um texto</translation>
     </message>

@@ -1433,7 +1433,7 @@
     </message>
     <message>
         <source>DEVICE_NOT_PERMITTED_TEXT</source>
-        <translation>Этот компьютер не разрешает вам использовать модем. Администратор может разрешить это для вашей учётной записи.</translation>
+        <translation>Этот компьютер не разрешает вам использовать модем. Администратор может вам это разрешить.</translation>
     </message>
     <message>
         <source>DEVICE_NO_SIM</source>
@@ -2222,6 +2222,10 @@
     <message>
         <source>CLI_DEVICE_STAYS</source>
         <translation>Панель уже запущена. Её окно теперь впереди и сохраняет своё устройство.</translation>
+    </message>
+    <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>Панель уже запущена. Её окно теперь впереди и сохраняет свой язык и журнал.</translation>
     </message>
     <message>
         <source>SERVICE_ASKS_TEXT</source>

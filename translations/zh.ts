@@ -2222,6 +2222,10 @@
         <translation>面板已在运行。其窗口现已置于最前，设备保持不变。</translation>
     </message>
     <message>
+        <source>CLI_OPTIONS_STAY</source>
+        <translation>面板已在运行。其窗口现已置于最前，语言和日志保持不变。</translation>
+    </message>
+    <message>
         <source>SERVICE_ASKS_TEXT</source>
         <translation>需要输入文字</translation>
     </message>

@@ -76,13 +76,17 @@ Texts load(const QString &code)
 }
 
 // Returns the loaded languages. The first call loads English, so that translations are available
-// even if the program never selects a language.
-Loaded &loaded()
+// even if the program never selects a language. If the caller has already loaded English, the first
+// call takes these texts instead of reading the file again.
+Loaded &loaded(Texts *english = nullptr)
 {
     static Loaded instance;
-    static const bool once = [] {
+    static const bool once = [english] {
         instance.code = QLatin1String(ENGLISH);
-        instance.english = load(instance.code);
+        if (english)
+            instance.english.swap(*english);
+        else
+            instance.english = load(instance.code);
         return true;
     }();
     Q_UNUSED(once)
@@ -197,15 +201,25 @@ bool Languages::setCurrent(const QString &code)
     Texts texts = load(code);
     if (!texts)
         return false;
-    Loaded &state = loaded();
+    const bool isEnglish = code == QLatin1String(ENGLISH);
+    Loaded &state = loaded(isEnglish ? &texts : nullptr);
+    Texts previous;
     {
         QMutexLocker lock(&state.mutex);
         state.code = code;
-        state.current.swap(texts);
+        state.current.swap(previous);
+        if (texts)
+            (isEnglish ? state.english : state.current).swap(texts);
         state.operatorFolder.clear();
     }
     setApplicationLanguage(*language);
     return true;
+}
+
+void Languages::applyToApplication()
+{
+    if (const Language *language = find(current()))
+        setApplicationLanguage(*language);
 }
 
 QString Languages::file(const QString &code)

@@ -44,6 +44,9 @@ public:
     /// unknown or its file is missing or damaged. Must be called from the GUI thread. Other threads
     /// may call Change::tr() at the same time.
     static bool setCurrent(const QString &code);
+    /// Applies the current language to the QApplication. Must be called once if the QApplication
+    /// was constructed after setCurrent(). Must be called from the GUI thread.
+    static void applyToApplication();
 
     /// Returns the path of the language file. May be called from any thread.
     static QString file(const QString &code);

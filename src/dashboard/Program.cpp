@@ -87,18 +87,21 @@ QString useDevice(DeviceChoice *choice)
 }
 
 /// Returns the exit code for an instance that exits because another instance is already running.
-/// Prints an error if the arguments specify a device, because the running instance keeps its
-/// device.
+/// Prints an error if the arguments contain options that have no effect on the running instance.
 int leaveToFirst(const Arguments &arguments)
 {
-    return namesDevice(arguments) ? fail(dashboardText("CLI_DEVICE_STAYS")) : EXIT_GOOD;
+    if (namesDevice(arguments))
+        return fail(dashboardText("CLI_DEVICE_STAYS"));
+    const bool hasOptions =
+        !arguments.language.isEmpty() || arguments.verbose || !arguments.logFile.isEmpty();
+    return hasOptions ? fail(dashboardText("CLI_OPTIONS_STAY")) : EXIT_GOOD;
 }
 
 /// Sets the icon of the program's windows. Wayland compositors use the icon of the desktop entry
-/// instead.
-void identifyWindows()
+/// instead. The icon is set after the first paint, because decoding it takes three per cent of the
+/// start.
+void setIcon()
 {
-    QGuiApplication::setDesktopFileName(QLatin1String("ussd-dashboard"));
     QApplication::setWindowIcon(applicationIcon());
 }
 
@@ -173,9 +176,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     const SingleInstance instance(SingleInstance::sessionName(settings.file()));
     if (instance.role() == SingleInstance::Later)
         return leaveToFirst(arguments);
-    // Sets the layout direction and Qt's own texts, which requires the QApplication.
-    HostCore::Languages::setCurrent(HostCore::Languages::current());
-    identifyWindows();
+    HostCore::Languages::applyToApplication();
+    QGuiApplication::setDesktopFileName(QLatin1String("ussd-dashboard"));
     startLook(settings);
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);
@@ -192,6 +194,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     ProfileKeeper profiles(ProfileBackup::ofUser());
     window.setProfiles(&profiles);
     window.show();
+    QObject::connect(&shown, &FirstPaint::painted, &window, &setIcon);
     QObject::connect(&shown, &FirstPaint::painted, &profiles, &ProfileKeeper::start);
     QObject::connect(&shown, &FirstPaint::painted, &window, &MainWindow::loadPlugin);
     sayWhatIsMissing(settings, &window);

@@ -28,20 +28,21 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
-/// Prints an error if a language file is missing or damaged. The message about the English file is
-/// hard-coded, because no strings are available without this file.
-void sayWhichTextsAreMissing(const QString &wanted)
+/// Prints an error if the file of the wanted language or the English file is missing or damaged.
+/// The message about the English file is hard-coded, because no strings are available without this
+/// file. `state` is the state of the file of the wanted language.
+void sayWhichTextsAreMissing(const QString &wanted, HostCore::Languages::FileState state)
 {
     const QString english = QLatin1String(ENGLISH);
-    const HostCore::Languages::FileState state = HostCore::Languages::fileState(english);
-    if (state == HostCore::Languages::Missing)
+    const HostCore::Languages::FileState ofEnglish =
+        wanted == english ? state : HostCore::Languages::fileState(english);
+    if (ofEnglish == HostCore::Languages::Missing)
         HostCore::printErrorLine(HostCore::Languages::file(english) +
                                  QLatin1String(" is missing; keys stand in place of texts."));
-    else if (state == HostCore::Languages::Damaged)
+    else if (ofEnglish == HostCore::Languages::Damaged)
         HostCore::printErrorLine(HostCore::Languages::file(english) +
                                  QLatin1String(" is damaged; keys stand in place of texts."));
-    else if (!wanted.isEmpty() &&
-             HostCore::Languages::fileState(wanted) != HostCore::Languages::Whole)
+    else if (!wanted.isEmpty() && state != HostCore::Languages::Whole)
         HostCore::printErrorLine(
             dashboardText(languageProblem(wanted)).arg(HostCore::Languages::file(wanted)));
 }
@@ -58,7 +59,7 @@ QString usualLanguage()
         state == HostCore::Languages::Missing || state == HostCore::Languages::NoSuchLanguage;
     // It is not an error if there is no file for the language of the desktop. However, there must
     // be a file for a language that was selected in the dashboard.
-    sayWhichTextsAreMissing(isAbsent && remembered.isEmpty() ? QString() : code);
+    sayWhichTextsAreMissing(isAbsent && remembered.isEmpty() ? QString() : code, state);
     return state == HostCore::Languages::Whole ? code : QLatin1String(ENGLISH);
 }
 

@@ -51,6 +51,14 @@ void DeviceTest::tearDown()
     fakeSdkReset();
 }
 
+void DeviceTest::openOnHome()
+{
+    m_window.reset();
+    m_window.reset(new MainWindow(m_plugin.data(), m_settings.data()));
+    m_window->show();
+    drainEvents();
+}
+
 void DeviceTest::loadPlugin()
 {
     const PluginFailure failure = m_window->loadPlugin();

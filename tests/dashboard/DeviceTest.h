@@ -28,6 +28,8 @@ protected:
 
     Dashboard::MainWindow &window() { return *m_window; }
     Dashboard::DashboardSettings &settings() { return *m_settings; }
+    /// Replaces the window with a new one that shows the page Home.
+    void openOnHome();
     /// Loads the plug-in into the page.
     void loadPlugin();
     template <typename T>

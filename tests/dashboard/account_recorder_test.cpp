@@ -55,6 +55,7 @@ private slots:
     void otherRepliesAreNotKept();
     void anotherCodeMayChangeTheBalance_data();
     void anotherCodeMayChangeTheBalance();
+    void aCodeWithoutAReplyMayChangeTheBalance();
     void eachCodeTellsItsOwnValues();
     void aLowBalanceIsReportedOnce();
     void aLimitIsNeeded();
@@ -176,12 +177,18 @@ void AccountRecorderTest::anotherCodeMayChangeTheBalance_data()
 {
     QTest::addColumn<QString>("sent");
     QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isMenu");
     QTest::addColumn<bool>("isOutdated");
-    const auto row = [](const char *sent, const char *text, bool isOutdated) {
-        QTest::newRow(*sent ? sent : "message") << code(sent) << code(text) << isOutdated;
+    const auto row = [](const char *sent, const char *text, bool isOutdated, bool isMenu = false) {
+        QTest::addRow("%s%s", *sent ? sent : "message", isMenu ? ", a menu" : "")
+            << code(sent) << code(text) << isMenu << isOutdated;
     };
     row("*101*123456789012#", "Balance: 22.50 EUR", true);
-    row("*123#", "1 Day\n2 Week", true);
+    row("*101*123456789012#", "Thank you.\n1 Buy a pack\n2 End", true, true);
+    row("*124*1#", "Booked.", true);
+    row("*123#", "1 Day\n2 Week", false, true);
+    row("*102#", "1 Your number\n2 Other numbers", false, true);
+    row("1", "Booked.\n0 Back\n# End", true, true); // an answer may already have bought something
     row("2", "A week booked. Balance: 7.50 EUR", true); // the answer to a menu
     row("*199#", "", false);                            // refused
     row("", "Balance: 7.50 EUR", false);                // a network-initiated message
@@ -196,16 +203,29 @@ void AccountRecorderTest::anotherCodeMayChangeTheBalance()
 {
     QFETCH(QString, sent);
     QFETCH(QString, text);
+    QFETCH(bool, isMenu);
     QFETCH(bool, isOutdated);
-    m_recorder->record(sent, reply(text.toUtf8().constData()));
+    Reply received = reply(text.toUtf8().constData());
+    received.asksForAnswer = isMenu;
+    m_recorder->record(sent, received);
     QVERIFY(!m_store->isOutdated()); // the balance has not been queried yet
     m_recorder->record(code("*100#"), reply("Balance: 12.50 EUR"));
     QVERIFY(!m_store->isOutdated());
-    m_recorder->record(sent, reply(text.toUtf8().constData()));
+    m_recorder->record(sent, received);
     QCOMPARE(m_store->isOutdated(), isOutdated);
     QCOMPARE(m_store->newestBalance().reading.amount->units, qint64(125000));
     m_recorder->record(code("*100#"), reply("Please try later."));
     QVERIFY(!m_store->isOutdated()); // the card shows the new reply instead of a balance
+}
+
+void AccountRecorderTest::aCodeWithoutAReplyMayChangeTheBalance()
+{
+    m_recorder->record(code("*100#"), reply("Balance: 12.50 EUR"));
+    for (const char *harmless : {"*100#", "*102#", "*103#", ""})
+        m_recorder->recordUnanswered(code(harmless));
+    QVERIFY(!m_store->isOutdated());
+    m_recorder->recordUnanswered(code("*124*1#"));
+    QVERIFY(m_store->isOutdated());
 }
 
 void AccountRecorderTest::eachCodeTellsItsOwnValues()

@@ -33,6 +33,8 @@ protected:
 
 private slots:
     void theMarginsAreClipped();
+    void theFieldIsVisibleWhileTheUserTypes();
+    void theFieldGetsTheFocusAfterAMenu();
     void theNarrowFormHidesThePresets();
     void theEditorDoesNotBringThePresetsBack();
     void aSmallPageScrollsBelowTheStrip();
@@ -151,6 +153,44 @@ void CodesPageTest::theMarginsAreClipped()
     QCOMPARE(first->mapTo(codes().area(), QPoint()).x(), 24);
     QCOMPARE(codes().area()->width() - transcript().right() - 1, 24);
     QVERIFY(first->isVisible());
+}
+
+/// Tests that a low page scrolls to the command field when the user types or moves the focus to it,
+/// and not when the plug-in disables the field or gives it the focus. Otherwise, the preset buttons
+/// would move while the user is pressing them.
+void CodesPageTest::theFieldIsVisibleWhileTheUserTypes()
+{
+    codes().resize(900, 300);
+    codes().activateWindow();
+    settle();
+    QLineEdit *field = general().commandEdit();
+    QScrollBar *bar = codes().area()->verticalScrollBar();
+    const auto isShown = [this, field] {
+        const QWidget *viewport = codes().area()->viewport();
+        return viewport->rect().contains(QRect(field->mapTo(viewport, QPoint()), field->size()));
+    };
+    bar->setValue(0);
+    field->setFocus(Qt::OtherFocusReason);
+    receive(u"Balance");
+    QCOMPARE(general().lastReceived(), QLatin1String("Balance"));
+    QCOMPARE(QApplication::focusWidget(), field);
+    QCOMPARE(bar->value(), 0);
+    QTest::keyClick(field, Qt::Key_1);
+    QVERIFY(isShown());
+    bar->setValue(0);
+    field->clearFocus();
+    field->setFocus(Qt::ShortcutFocusReason);
+    QVERIFY(isShown());
+}
+
+void CodesPageTest::theFieldGetsTheFocusAfterAMenu()
+{
+    codes().activateWindow();
+    for (void (StateStrip::*signal)() : {&StateStrip::menuEnded, &StateStrip::dismissed}) {
+        presets().first()->setFocus();
+        (codes().strip()->*signal)();
+        QCOMPARE(QApplication::focusWidget(), general().commandEdit());
+    }
 }
 
 void CodesPageTest::theNarrowFormHidesThePresets()

@@ -36,6 +36,21 @@ protected:
     void tearDown() override { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
 
 private slots:
+    void aWidgetIsShownWithItsParent()
+    {
+        QWidget parent;
+        QLabel *label = makeLabel("body", &parent);
+        setShown(label, true);
+        QVERIFY(!label->isHidden());
+        QVERIFY(!label->testAttribute(Qt::WA_WState_Polished)); // not laid out yet
+        setShown(label, false);
+        QVERIFY(label->isHidden());
+        parent.show();
+        QVERIFY(!label->isVisible());
+        setShown(label, true);
+        QVERIFY(label->isVisible());
+    }
+
     void isolatesCodes()
     {
         QCOMPARE(isolated(latin1("*100#")), QChar(0x2066) + latin1("*100#") + QChar(0x2069));

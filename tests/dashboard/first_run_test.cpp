@@ -26,6 +26,7 @@ private slots:
     void itIsShownInsteadOfThePagesUntilItIsFinished();
     void notNowIsRemembered();
     void stepsTickThemselvesOff();
+    void theFocusFollowsTheSteps();
     void ofSeveralOperatorsNobodyIsChosen();
     void theChosenOperatorIsUsed();
     void withoutOperatorsCodesIsLast();
@@ -33,6 +34,7 @@ private slots:
     void anIntegratorsCodesNeedNoFirstRun();
     void nothingIsSent();
     void theLanguageCanBeChosen();
+    void theNoteHasAnIcon();
     void nothingIsCutInTheSmallestWindow_data();
     void nothingIsCutInTheSmallestWindow();
 
@@ -105,6 +107,20 @@ void FirstRunTest::stepsTickThemselvesOff()
     tell(sim("99902"));
     QVERIFY(!enable->isVisible());
     QCOMPARE(part<QLabel>("Dashboard_FirstRunSimTitle")->text(), QLatin1String("SIM ready"));
+}
+
+/// Tests that the focus follows the steps, and does not reach the button for the demonstration.
+void FirstRunTest::theFocusFollowsTheSteps()
+{
+    tell(modemInfo(TKSV_DEVICE_DISABLED));
+    QPushButton *enable = part<QWidget>("Dashboard_FirstRunSim")->findChild<QPushButton *>();
+    enable->setFocus();
+    tell(modemInfo(TKSV_DEVICE_SEARCHING));
+    QVERIFY(enable->isHidden());
+    QCOMPARE(window().focusWidget(), first());
+    tell(sim("99902"));
+    QCOMPARE(window().focusWidget(), options().first());
+    QVERIFY(!options().first()->isChecked());
 }
 
 void FirstRunTest::ofSeveralOperatorsNobodyIsChosen()
@@ -185,6 +201,18 @@ void FirstRunTest::theLanguageCanBeChosen()
             action->trigger();
     }
     QCOMPARE(language->accessibleName(), QLatin1String("Sprache, Deutsch"));
+}
+
+/// Tests that the note fits into a single line next to its icon.
+void FirstRunTest::theNoteHasAnIcon()
+{
+    window().resize(1120, 720);
+    drainEvents();
+    const QWidget *icon = part<QWidget>("Dashboard_FirstRunCostsIcon");
+    const QLabel *note = part<QLabel>("Dashboard_FirstRunCosts");
+    QVERIFY(icon->isVisible());
+    QVERIFY(note->height() < 2 * note->fontMetrics().height());
+    QVERIFY(icon->geometry().right() < note->geometry().left());
 }
 
 void FirstRunTest::nothingIsCutInTheSmallestWindow_data()

@@ -94,8 +94,10 @@ private slots:
     void withoutADeviceTheLastBalanceIsKnown();
     void aLowBalanceIsMarked();
     void theMessageIsOpened();
+    void cardsAreHiddenUntilTheyAreNeeded();
     void nothingIsWiderThanTheWindow_data();
     void nothingIsWiderThanTheWindow();
+    void theCardsFollowTheFont();
 
 private:
     void record(const char *code, const char *text)
@@ -498,6 +500,19 @@ void HomePageTest::theMessageIsOpened()
     QVERIFY(!row->isVisible());
 }
 
+/// Measuring a card that is not needed loads its fonts, which would slow down the start of the
+/// program.
+void HomePageTest::cardsAreHiddenUntilTheyAreNeeded()
+{
+    const QWidget *card = m_page->findChild<BalanceCard *>();
+    const QWidget *state = m_page->findChild<StateCard *>();
+    QVERIFY(!card->isVisibleTo(m_page.data()));
+    QVERIFY(!state->isVisibleTo(m_page.data()));
+    open();
+    QVERIFY(card->isVisible());
+    QVERIFY(!state->isVisible());
+}
+
 void HomePageTest::nothingIsWiderThanTheWindow_data()
 {
     QTest::addColumn<QString>("language");
@@ -527,6 +542,33 @@ void HomePageTest::nothingIsWiderThanTheWindow()
                                 .arg(place.left())
                                 .arg(place.right())));
     }
+}
+
+/// Tests that a smaller font makes the cards smaller, and that a change of the form does not make
+/// their buttons smaller.
+void HomePageTest::theCardsFollowTheFont()
+{
+    Look::instance().start();
+    const QFont before = QApplication::font();
+    const auto useFont = [before](int pixels) {
+        QFont font = before;
+        font.setPixelSize(pixels);
+        QApplication::setFont(font);
+    };
+    useFont(16);
+    record("*100#", "Balance: 12.50 EUR. Valid until 31 December 2027");
+    open();
+    useFont(14);
+    for (const Form form : {Form::Wide, Form::Narrow, Form::Wide}) {
+        m_page->setForm(form);
+        drainEvents();
+    }
+    const QWidget *tile = m_page->findChild<QWidget *>(QLatin1String("Dashboard_NumberTile"));
+    QCOMPARE(tile->findChild<QPushButton *>()->height(), 40);
+    QCOMPARE(tile->minimumHeight(), 100);
+    QCOMPARE(m_page->findChild<QWidget *>(QLatin1String("Dashboard_BalanceCard"))->minimumHeight(),
+             196);
+    QApplication::setFont(before);
 }
 
 USSD_TEST_MAIN(HomePageTest)

@@ -238,6 +238,8 @@ private slots:
         const QString sheet = styleSheet(shade, direction, 1.5);
         QVERIFY(sheet.size() > 1000);
         QVERIFY(!sheet.contains(QLatin1Char('@')));
+        QVERIFY(!sheet.contains(QLatin1String("/*")));
+        QVERIFY(!sheet.contains(QRegularExpression(QLatin1String("\\s\\s|\\n|[{};,] | [{};,]"))));
         QVERIFY(!sheet.contains(QRegularExpression(QLatin1String("#[0-9-]+px"))));
         const char *end =
             direction == Qt::LeftToRight ? "padding-right: 10px" : "padding-left: 10px";

@@ -4,6 +4,7 @@
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyleOptionButton>
 
 #include "base/Isolate.h"
 #include "CommandTest.h"
@@ -51,6 +52,7 @@ private slots:
     void theNarrowFormShowsOneAtATime();
     void aNotificationOpensItsMessage();
     void theTextShowsThatItHasTheFocus();
+    void aCheckedFilterIsNotCut();
 
 private:
     Message add(const char *text, int secondsAgo = 0, bool waits = false);
@@ -374,6 +376,28 @@ void MessagesPageTest::aNotificationOpensItsMessage()
 
 // Tests that the text has a visible border while it has the focus. The Tab key stops at the text,
 // so that a long message can be scrolled with the keyboard.
+/// Tests that the bold text of a checked filter fits into its button.
+void MessagesPageTest::aCheckedFilterIsNotCut()
+{
+    Look::instance().start();
+    drainEvents();
+    for (QPushButton *filter : m_page->findChildren<QPushButton *>()) {
+        if (!filter->isCheckable())
+            continue;
+        filter->click();
+        drainEvents();
+        QStyleOptionButton option;
+        option.initFrom(filter);
+        option.state |= QStyle::State_On;
+        const QRect room =
+            filter->style()->subElementRect(QStyle::SE_PushButtonContents, &option, filter);
+        QFont bold = filter->font();
+        bold.setWeight(QFont::DemiBold);
+        QVERIFY2(room.width() >= QFontMetrics(bold).horizontalAdvance(filter->text()),
+                 qPrintable(filter->text()));
+    }
+}
+
 void MessagesPageTest::theTextShowsThatItHasTheFocus()
 {
     Look::instance().start();

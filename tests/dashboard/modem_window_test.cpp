@@ -5,9 +5,12 @@
 #include "account/Favourites.h"
 #include "base/DashboardText.h"
 #include "DeviceTest.h"
+#include "ExtendDialog.h"
 #include "IUSSD.h"
+#include "pages/CodesPage.h"
 #include "plugin/CodeHistory.h"
 #include "plugin/GeneralWindow.h"
+#include "plugin/PrivatePluginFolder.h"
 #include "PluginFolderChoice.h"
 #include "sim/OperatorCodes.h"
 #include "sim/PaidTypeFinder.h"
@@ -28,6 +31,10 @@ protected:
     void tearDown() override;
 
 private slots:
+    void theCodesPageIsMadeForADevice();
+    void theCodesPageIsMadeBeforeItsDeviceSends();
+    void keysMakeTheCodesPage_data();
+    void keysMakeTheCodesPage();
     void aDemonstrationIsMarkedInEveryLanguage();
     void aModemIsNoDemonstration();
     void withoutAModemNothingIsInvented();
@@ -37,6 +44,9 @@ private slots:
     void nothingOfADemonstrationReachesASim();
     void openingSendsNothing();
     void theFirstOwnCodesAreShownAtOnce();
+    void aSavedCodeWithoutAButtonIsAnnounced();
+    void aTypedCodeOutlivesASavedCode();
+    void aSavedCodeDoesNotRepeatTheQuery();
 
     void theQueryNeedsTheUser_data();
     void theQueryNeedsTheUser();
@@ -66,12 +76,17 @@ private:
     bool waitForSettling();
     void useIntegratorsFolder();
     void send(const char *code);
+    void useOwnFolder();
+    void saveOwnCodes(int count);
     QStringList recentCodes();
+
+    QScopedPointer<PrivatePluginFolder> m_library;
 };
 
 void ModemWindowTest::tearDown()
 {
     DeviceTest::tearDown();
+    m_library.reset();
     qunsetenv("USSD_PLUGIN_LIBRARY_PATH");
     qunsetenv("USSD_DETECT_PAID_TYPE");
 }
@@ -127,6 +142,25 @@ void ModemWindowTest::send(const char *code)
     drainEvents();
 }
 
+/// Makes the plug-in read the user's own codes from the folder of the test.
+void ModemWindowTest::useOwnFolder()
+{
+    fakeSdkSetUserDataDirectory((folder() + QLatin1Char('/')).toStdU16String());
+}
+
+/// Writes the codes "Mine 1" and so on, as the profile editor would save them.
+void ModemWindowTest::saveOwnCodes(int count)
+{
+    QByteArray xml = "<tksvdoc type=\"USSDProfile\">";
+    for (int i = 1; i <= count; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        xml += "<item><name>Mine " + number + "</name><value>*" + number +
+               "#</value><readonly>false</readonly><showButton>true</showButton><langID></langID>"
+               "<desLangID></desLangID></item>";
+    }
+    writeFile(QLatin1String("ussdprofile.xml"), xml + "</tksvdoc>");
+}
+
 /// Returns the texts of the chips with the codes that were sent last.
 QStringList ModemWindowTest::recentCodes()
 {
@@ -180,6 +214,49 @@ void ModemWindowTest::withoutAModemNothingIsInvented()
     QVERIFY(trouble().contains(QLatin1String("ModemManager")));
     QCOMPARE(presets(), 0);
     QCOMPARE(window().controller().windows(), int(SIM_WINDOW_GENERAL));
+}
+
+void ModemWindowTest::theCodesPageIsMadeForADevice()
+{
+    tell(modemInfo(TKSV_DEVICE_ABSENT));
+    openOnHome();
+    loadPlugin();
+    QVERIFY(!part<CodesPage>("Dashboard_CodesPage"));
+    tell(modemWithSim());
+    QVERIFY(part<CodesPage>("Dashboard_CodesPage"));
+    QVERIFY(page().isComplete());
+    QCOMPARE(window().currentPage(), PageId::Home);
+}
+
+void ModemWindowTest::theCodesPageIsMadeBeforeItsDeviceSends()
+{
+    openOnHome();
+    QVERIFY(!part<CodesPage>("Dashboard_CodesPage")); // not before the first paint
+    loadPlugin();
+    QVERIFY(part<CodesPage>("Dashboard_CodesPage"));
+    QVERIFY(page().isComplete());
+}
+
+void ModemWindowTest::keysMakeTheCodesPage_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("code") << int(Qt::Key_L);
+    QTest::newRow("history") << int(Qt::Key_H);
+}
+
+void ModemWindowTest::keysMakeTheCodesPage()
+{
+    QFETCH(int, key);
+    tell(modemInfo(TKSV_DEVICE_ABSENT));
+    openOnHome();
+    loadPlugin();
+    for (int times = 0; times < 2; ++times) { // the second key belongs to the page
+        window().showPage(PageId::Home);
+        QTest::keyClick(&window(), Qt::Key(key), Qt::ControlModifier);
+        QCOMPARE(window().currentPage(), PageId::Codes);
+        QVERIFY(page().commandEdit()->isVisible());
+        drainEvents();
+    }
 }
 
 void ModemWindowTest::aModemHasNoPresetsOfAnotherOperator()
@@ -268,20 +345,78 @@ void ModemWindowTest::openingSendsNothing()
 // when this window is closed.
 void ModemWindowTest::theFirstOwnCodesAreShownAtOnce()
 {
-    fakeSdkSetUserDataDirectory((folder() + QLatin1Char('/')).toStdU16String());
+    useOwnFolder();
     tell(modemWithSim());
     loadPlugin();
     QCOMPARE(presets(), 0);
     window().openFrame(PAID_TYPE_GENERAL);
     const GeneralWindow framed = GeneralWindow::framed();
     QVERIFY(framed.isComplete());
-    writeFile(QLatin1String("ussdprofile.xml"),
-              "<tksvdoc type=\"USSDProfile\"><item><name>Mine</name><value>*1#</value>"
-              "<readonly>false</readonly><showButton>true</showButton><langID></langID>"
-              "<desLangID></desLangID></item></tksvdoc>");
+    saveOwnCodes(1);
     framed.commandEdit()->window()->close();
     QTRY_COMPARE(presets(), 1);
     QVERIFY(fakeSdkCommands().empty());
+}
+
+// Tests that the banner names a code without a button, even if the editor was closed before the
+// window from which the user has opened the editor.
+void ModemWindowTest::aSavedCodeWithoutAButtonIsAnnounced()
+{
+    useOwnFolder();
+    tell(modemWithSim());
+    loadPlugin();
+    window().openFrame(PAID_TYPE_GENERAL);
+    ExtendDialog editor;
+    editor.show();
+    saveOwnCodes(12);
+    editor.hide();
+    drainEvents();
+    QCOMPARE(presets(), 0);
+    GeneralWindow::framed().commandEdit()->window()->close();
+    QTRY_COMPARE(presets(), 11);
+    drainEvents();
+    QVERIFY2(banner().contains(QLatin1String("Mine 12")), qPrintable(banner()));
+}
+
+// Tests that the plug-in is restarted only when the command field is empty again.
+void ModemWindowTest::aTypedCodeOutlivesASavedCode()
+{
+    useOwnFolder();
+    tell(modemWithSim());
+    loadPlugin();
+    page().commandEdit()->setText(QLatin1String("*1"));
+    ExtendDialog editor;
+    editor.show();
+    saveOwnCodes(1);
+    editor.hide();
+    drainEvents();
+    QCOMPARE(page().commandEdit()->text(), QLatin1String("*1"));
+    QCOMPARE(presets(), 0);
+    page().commandEdit()->clear();
+    QTRY_COMPARE(presets(), 1);
+}
+
+// Tests that a saved code does not make the dashboard send the query again for the same SIM.
+void ModemWindowTest::aSavedCodeDoesNotRepeatTheQuery()
+{
+    DeviceTest::tearDown();
+    m_library.reset(new PrivatePluginFolder);
+    QVERIFY(m_library->write(QLatin1String("ussdsysprofile.xml"), "<tksvdoc/>"));
+    setUp();
+    useOwnFolder();
+    fakeSdkSetAnswer(fakeReply(u"Account 1"));
+    window().controller().setDetection(true);
+    tell(modemWithSim());
+    loadPlugin();
+    QTRY_COMPARE(window().sim().paidTypeText(), QLatin1String("Prepaid"));
+    QCOMPARE(presets(), 0);
+    ExtendDialog editor;
+    editor.show();
+    saveOwnCodes(1);
+    editor.hide();
+    QTRY_COMPARE(presets(), 1);
+    QCOMPARE(window().sim().paidTypeText(), QLatin1String("Prepaid"));
+    QVERIFY(fakeSdkCommands() == std::vector<std::u16string>{u"*103#"});
 }
 
 // ---- the prepaid/postpaid query ------------------------------------------------------------

@@ -40,12 +40,14 @@ Reply=Meridian Mobile\n1 My account\n2 Data packs\n3 Help
 Reply=Data packs
 )";
 
-/// Replaces times with placeholders, because they differ between runs. Makes the invisible isolate
-/// characters visible as < and >.
+/// Replaces dates and times with placeholders, because they differ between runs. Makes the
+/// invisible isolate characters visible as < and >.
 QString steady(QString line)
 {
     static const QRegularExpression time(latin1("\\b\\d{1,2}:\\d{2}\\b"));
     static const QRegularExpression seconds(latin1("\\b\\d+ (of 30 )?(?=seconds|s\\b)"));
+    static const QRegularExpression date(latin1("\\b\\d{1,2} [A-Z][a-z]+ 20\\d{2}\\b"));
+    line.replace(date, latin1("D MMMM YYYY"));
     line.replace(QChar(0x2066), QLatin1Char('<'));
     line.replace(QChar(0x2069), QLatin1Char('>'));
     line.replace(time, latin1("hh:mm"));

@@ -65,6 +65,7 @@ private slots:
     void theSizesOfTheWindowAreBounded();
     void thePlaceIsRememberedAlsoForAMaximizedWindow();
     void theNavigationIsOneTabStopWithArrows();
+    void theNavigationPrecedesTheDeviceLine();
     void theNavigationIsAListOfPageTabs();
     void unreadMessagesAreCounted();
     void keysGoToThePages_data();
@@ -283,6 +284,19 @@ void ShellTest::theNavigationIsOneTabStopWithArrows()
     const QWidget *focus = QApplication::focusWidget();
     const bool isTab = focus->objectName().startsWith(QLatin1String("Dashboard_Nav"));
     QVERIFY2(!isTab, qPrintable(focus->objectName()));
+}
+
+/// Tests that the first widget to get the focus is the button of the current page.
+void ShellTest::theNavigationPrecedesTheDeviceLine()
+{
+    QWidget *device = part<QWidget>("Dashboard_DeviceLine");
+    const QWidget *navigation = m_window->findChild<Navigation *>();
+    QWidget *next = m_window.data();
+    do
+        next = next->nextInFocusChain();
+    while (!navigation->isAncestorOf(next) || !(next->focusPolicy() & Qt::TabFocus));
+    QCOMPARE(next->objectName(), QLatin1String("Dashboard_NavHome"));
+    QVERIFY(device->focusPolicy() & Qt::TabFocus);
 }
 
 void ShellTest::theNavigationIsAListOfPageTabs()

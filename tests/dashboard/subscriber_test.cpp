@@ -1,4 +1,5 @@
 #include <QDateTime>
+#include <QRegularExpression>
 
 #include "base/DashboardText.h"
 #include "look/Controls.h"
@@ -46,6 +47,10 @@ private slots:
     void theBalanceIsNotAskedAbroadOrWhileBlocked();
     void theBalanceIsNotAskedWhileTheUserTypes();
     void aPackBoughtMarksTheBalance();
+    void aCodeWithoutAReplyMarksTheBalance();
+    void theFocusStaysWhileTheBalanceIsAsked_data();
+    void theFocusStaysWhileTheBalanceIsAsked();
+    void servicesThatAreNotOfferedAreNotListed();
     void olderNetworksAreAllowedAndTakenBack();
 
 private:
@@ -227,6 +232,71 @@ void SubscriberTest::aPackBoughtMarksTheBalance()
                 !amount->text().contains(QLatin1String("12.50")));
     QVERIFY(!note->isVisible());
     QCOMPARE(asked(), 2);
+}
+
+/// Tests that a code that timed out marks the balance, because the network may have executed it. A
+/// refused code does not.
+void SubscriberTest::aCodeWithoutAReplyMarksTheBalance()
+{
+    useNetwork(IMSI, "",
+               "[*100#]\nReply=Your balance is 12.50 EUR.\n[*124*1#]\nOutcome=silence\n"
+               "[*124*2#]\nOutcome=refuse");
+    open();
+    ask("*100#");
+    ask("*124*2#");
+    AccountStore &store = window().findChild<HomeSetup *>()->store();
+    drainEvents();
+    QVERIFY(!store.newestBalance().isNull());
+    QVERIFY(!store.isOutdated());
+    ask("*124*1#");
+    QTRY_VERIFY(store.isOutdated());
+}
+
+void SubscriberTest::theFocusStaysWhileTheBalanceIsAsked_data()
+{
+    QTest::addColumn<QString>("button");
+    for (const char *name : {"Dashboard_AskButton", "Dashboard_TopUpButton"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+/// Tests that a button that is disabled during the query gets the focus back.
+void SubscriberTest::theFocusStaysWhileTheBalanceIsAsked()
+{
+    QFETCH(QString, button);
+    useNetwork(IMSI, "", BALANCE);
+    open();
+    ask("*100#");
+    window().showPage(PageId::Home);
+    drainEvents();
+    QPushButton *focused = shownButton(button.toLatin1().constData());
+    QVERIFY(focused);
+    focused->setFocus();
+    QTest::keyClick(&window(), Qt::Key_F5);
+    QTRY_VERIFY(page().isWaiting());
+    drainEvents();
+    QCOMPARE(window().focusWidget(), shownButton("Dashboard_AskButton"));
+    QTRY_VERIFY(!page().isWaiting());
+    QTRY_COMPARE(window().focusWidget(), focused);
+    QCOMPARE(asked(), 2);
+}
+
+void SubscriberTest::servicesThatAreNotOfferedAreNotListed()
+{
+    QVERIFY(configure("imsi=\"00102\"", "/Commonpaid", ""));
+    useNetwork(IMSI, "", BALANCE);
+    openDashboard();
+    window().showPage(PageId::Services);
+    const QWidget *none = window().findChild<QWidget *>(QLatin1String("Dashboard_ServicesNone"));
+    const auto cards = [this] {
+        return window()
+            .findChildren<QWidget *>(QRegularExpression(QLatin1String("^Dashboard_Service_")))
+            .size();
+    };
+    QVERIFY(cards() > 0);
+    QVERIFY(!none->isVisible());
+    useNetwork("001020000000001", "", BALANCE);
+    QTRY_COMPARE(cards(), 0);
+    QVERIFY(none->isVisible());
 }
 
 /* ---- modems on 4G ------------------------------------------------------------------------ */

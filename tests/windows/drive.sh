@@ -92,6 +92,17 @@ first_run()
     quit
 }
 
+# Starts a second instance, which must not ignore its options silently.
+a_second_start()
+{
+    say 'a second start'
+    local status=0
+    "$program" >>"$pictures/program.log" 2>&1
+    "$program" --language de >>"$pictures/program.log" 2>&1 || status=$?
+    [ $status = 1 ]
+    wait_for '^page tab "Home" \[selected\]'
+}
+
 a_code()
 {
     say 'a code'
@@ -255,6 +266,7 @@ rm -f "$pictures"/program.log
 openbox &
 first_run
 start --scenario "$sources/drive.scenario"
+a_second_start
 a_code
 a_menu
 a_cancel

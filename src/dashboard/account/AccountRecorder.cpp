@@ -1,10 +1,24 @@
 #include "AccountRecorder.h"
 
 #include "AccountStore.h"
+#include "plugin/CodeForms.h"
 #include "plugin/ReplyTap.h"
+#include "UssdCode.h"
 
 namespace Dashboard
 {
+
+namespace
+{
+
+/// Returns true if the reply only opens the menu of the code. A code that contains a number, such
+/// as a top-up, may have been executed before the menu.
+bool opensMenu(const QString &code, const Reply &reply)
+{
+    return reply.asksForAnswer && Formats::isUssdCode(code) && codeWithoutNumbers(code) == code;
+}
+
+} // namespace
 
 AccountRecorder::AccountRecorder(AccountStore *store, QObject *parent)
     : QObject(parent), m_store(store)
@@ -15,8 +29,9 @@ void AccountRecorder::record(const QString &code, const Reply &reply)
 {
     if (code.isEmpty() || reply.text.trimmed().isEmpty())
         return;
-    // Menus do not contain account data.
-    if (!m_codes.asksForAccount(code) || reply.asksForAnswer)
+    if (opensMenu(code, reply))
+        return; // a menu neither contains account data nor changes the balance
+    if (!m_codes.asksForAccount(code))
         return noteOther(code);
     AccountEntry entry;
     entry.askedAt = m_store->now();
@@ -30,7 +45,13 @@ void AccountRecorder::record(const QString &code, const Reply &reply)
         warn(*entry.reading.amount);
 }
 
-/// Records that another code was answered, which may have changed the balance. The amount in such a
+void AccountRecorder::recordUnanswered(const QString &code)
+{
+    if (!code.isEmpty() && !m_codes.asksForAccount(code))
+        noteOther(code);
+}
+
+/// Records that another code was executed, which may have changed the balance. The amount in such a
 /// reply is not used, because it may be a price.
 void AccountRecorder::noteOther(const QString &code)
 {

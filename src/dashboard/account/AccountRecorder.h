@@ -36,6 +36,9 @@ public:
 public slots:
     /// Must be called for each reply. Connect it to CommandMonitor::replied().
     void record(const QString &code, const Dashboard::Reply &reply);
+    /// Must be called for each code without a reply that the network may have executed. Connect it
+    /// to CommandMonitor::leftOpen().
+    void recordUnanswered(const QString &code);
 
 signals:
     /// Emitted when the balance falls below the amount that the user has set. Emitted again only

@@ -112,6 +112,13 @@ bool mayBeSentAgain(const TKSV_FailureInfo &failure)
                               : rowOf(failure.reason).again == Yes;
 }
 
+bool mayHaveBeenExecuted(const TKSV_FailureInfo &failure)
+{
+    const bool hasReply =
+        failure.reason == TKSV_FAILURE_EMPTY_REPLY || failure.reason == TKSV_FAILURE_UNDECODABLE;
+    return !failure.wasNotSent && (hasReply || isOutcomeUnknown(failure.reason));
+}
+
 QString failureWords(const TKSV_FailureInfo &failure)
 {
     if (failure.reason == TKSV_FAILURE_NONE)

@@ -26,6 +26,9 @@ QString failureMeaning(const TKSV_FailureInfo &failure, const QString &code);
 /// the code or if the code would fail again.
 bool mayBeSentAgain(const TKSV_FailureInfo &failure);
 
+/// Returns true if the network may have executed the code.
+bool mayHaveBeenExecuted(const TKSV_FailureInfo &failure);
+
 } // namespace Dashboard
 
 #endif

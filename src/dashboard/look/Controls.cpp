@@ -177,6 +177,12 @@ QFrame *makeLine(QWidget *parent)
     return line;
 }
 
+void setShown(QWidget *widget, bool isShown)
+{
+    if (widget->isHidden() == isShown)
+        widget->setVisible(isShown);
+}
+
 void setMargins(QLayout *layout, int start, int top, int end, int bottom)
 {
     LayoutSizes::of(layout)->setMargins(QMargins(start, top, end, bottom));

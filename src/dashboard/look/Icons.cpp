@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QIconEngine>
+#include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
@@ -73,6 +74,15 @@ QPixmap pixmapOf(const char *name, const QColor &color, const QSize &size)
     return pixmap;
 }
 
+/// Reads the file without detecting its format. To detect the format, Qt would ask each of its image
+/// format plug-ins.
+QPixmap pngPixmap(const QString &file)
+{
+    QImageReader reader(file, "png");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
+}
+
 class TokenIconEngine : public QIconEngine
 {
 public:
@@ -125,7 +135,8 @@ QIcon applicationIcon()
     openResources();
     QIcon icon;
     for (const char *size : {"16", "32", "48", "128"})
-        icon.addFile(QString::fromLatin1(":/look/application-%1.png").arg(QLatin1String(size)));
+        icon.addPixmap(
+            pngPixmap(QString::fromLatin1(":/look/application-%1.png").arg(QLatin1String(size))));
     return icon;
 }
 

@@ -117,7 +117,7 @@ QFont LabelledButton::textFont() const
 {
     const int size = m_arrangement == Below ? WORD_SIZE : TEXT_SIZE;
     const bool isStrong = isChecked() || !m_second.isEmpty();
-    return sized(font(), size, isStrong ? QFont::DemiBold : QFont::Normal);
+    return sized(font(), size, isStrong ? STRONG_WEIGHT : QFont::Normal);
 }
 
 QFont LabelledButton::secondFont() const

@@ -1,6 +1,7 @@
 #include "StyleSheet.h"
 
 #include <QFile>
+#include <QHash>
 
 #include "Resources.h"
 
@@ -53,60 +54,128 @@ QString sheetTemplate()
     return QString::fromUtf8(file.readAll());
 }
 
-void fillInShade(QString *sheet, Shade shade)
+/// Returns true if the sheet means the same without white space before and after this character.
+bool isDivider(QChar character)
 {
-    for (int i = 0; i < TOKEN_COUNT; ++i)
-        sheet->replace(QLatin1Char('@') + tokenName(Token(i)) + QLatin1Char('@'),
-                       tokenColor(Token(i), shade).name());
-    sheet->replace(QLatin1String("@shade@"),
-                   shade == Shade::Light ? QLatin1String("light") : QLatin1String("dark"));
+    switch (character.unicode()) {
+    case '{':
+    case '}':
+    case ';':
+    case ',':
+        return true;
+    default:
+        return false;
+    }
 }
 
-void fillInSides(QString *sheet, Qt::LayoutDirection direction)
+/// Removes the comments and the unnecessary white space. Qt keeps each token of the last sheet that
+/// it has parsed, and white space is a token.
+QString compacted(const QString &sheet)
 {
-    const bool isMirrored = direction == Qt::RightToLeft;
-    sheet->replace(QLatin1String("@end@"),
-                   isMirrored ? QLatin1String("left") : QLatin1String("right"));
+    QString result(sheet.size(), Qt::Uninitialized);
+    const QChar *const begin = result.constData();
+    QChar *next = result.data();
+    bool isSpaceDue = false;
+    for (int at = 0; at < sheet.size(); ++at) {
+        const QChar character = sheet.at(at);
+        if (character == QLatin1Char('/') && sheet.at(at + 1) == QLatin1Char('*')) {
+            at = sheet.indexOf(QLatin1String("*/"), at) + 1;
+        } else if (character.isSpace()) {
+            isSpaceDue = next != begin && !isDivider(*(next - 1));
+        } else {
+            if (isSpaceDue && !isDivider(character))
+                *next++ = QLatin1Char(' ');
+            isSpaceDue = false;
+            *next++ = character;
+        }
+    }
+    result.resize(int(next - begin));
+    return result;
 }
 
-/// Returns the number at the position, and moves the position to the character after the number.
-int takeNumber(const QString &text, int *position)
+/** Replaces the names and sizes in the template of the sheet. */
+class Filling
 {
-    int number = 0;
-    for (; *position < text.length() && text.at(*position).isDigit(); ++*position)
-        number = number * 10 + text.at(*position).digitValue();
-    return number;
-}
+public:
+    Filling(Shade shade, Qt::LayoutDirection direction, double scale) : m_scale(scale)
+    {
+        for (int i = 0; i < TOKEN_COUNT; ++i)
+            m_words.insert(tokenName(Token(i)), tokenColor(Token(i), shade).name());
+        const bool isMirrored = direction == Qt::RightToLeft;
+        m_words.insert(QLatin1String("end"), QLatin1String(isMirrored ? "left" : "right"));
+        m_words.insert(QLatin1String("shade"),
+                       QLatin1String(shade == Shade::Light ? "light" : "dark"));
+    }
 
-/// Replaces each "#14px" with the scaled size, and each "#14-1px" with the scaled size minus one
-/// pixel. The latter exactly compensates for the thicker border of a widget that has the focus.
-/// QRegularExpression is not used, because it would compile machine code at each start.
-QString withSizes(const QString &sheet, double scale)
-{
-    const QLatin1String unit("px");
-    QString result;
-    int end = 0;
-    for (int mark = sheet.indexOf(QLatin1Char('#')); mark >= 0;
-         mark = sheet.indexOf(QLatin1Char('#'), mark + 1)) {
-        int at = mark + 1;
+    /// Replaces everything in a single pass, because the sheet is filled in at each start.
+    QString fillIn(const QString &sheet) const
+    {
+        QString result;
+        result.reserve(sheet.size());
+        int at = 0;
+        for (int mark = nextMark(sheet, 0); mark < sheet.size(); mark = nextMark(sheet, at)) {
+            result.append(sheet.constData() + at, mark - at);
+            at = mark;
+            result +=
+                sheet.at(mark) == QLatin1Char('@') ? takeWord(sheet, &at) : takeSize(sheet, &at);
+        }
+        result.append(sheet.constData() + at, sheet.size() - at);
+        result.squeeze();
+        return result;
+    }
+
+private:
+    /// Returns the position of the next at sign or number sign, or the size of the text.
+    static int nextMark(const QString &text, int position)
+    {
+        while (position < text.size() && text.at(position) != QLatin1Char('@') &&
+               text.at(position) != QLatin1Char('#'))
+            ++position;
+        return position;
+    }
+
+    /// Returns the replacement of the word between the at signs, and moves the position behind it.
+    QString takeWord(const QString &sheet, int *position) const
+    {
+        const int begin = *position + 1;
+        const int end = sheet.indexOf(QLatin1Char('@'), begin);
+        *position = end + 1;
+        return m_words.value(sheet.mid(begin, end - begin));
+    }
+
+    /// Returns the scaled size for "#14px", and the scaled size minus one pixel for "#14-1px". The
+    /// latter exactly compensates for the thicker border of a widget that has the focus. Returns
+    /// the sign itself if it starts a colour or an object name.
+    QString takeSize(const QString &sheet, int *position) const
+    {
+        const QLatin1String unit("px");
+        int at = *position + 1;
         const int size = takeNumber(sheet, &at);
         const int less = sheet.mid(at, 1) == QLatin1String("-") ? takeNumber(sheet, &(++at)) : 0;
         if (sheet.mid(at, unit.size()) != unit)
-            continue; // a colour, not a size
-        result += sheet.mid(end, mark - end) + QString::number(qRound(size * scale) - less) + unit;
-        end = at + unit.size();
+            return sheet.mid((*position)++, 1); // a colour or an object name, not a size
+        *position = at + unit.size();
+        return QString::number(qRound(size * m_scale) - less) + unit;
     }
-    return result + sheet.mid(end);
-}
+
+    /// Returns the number at the position, and moves the position to the character after it.
+    static int takeNumber(const QString &text, int *position)
+    {
+        int number = 0;
+        for (; *position < text.length() && text.at(*position).isDigit(); ++*position)
+            number = number * 10 + text.at(*position).digitValue();
+        return number;
+    }
+
+    const double m_scale;
+    QHash<QString, QString> m_words;
+};
 
 } // namespace
 
 QString styleSheet(Shade shade, Qt::LayoutDirection direction, double scale)
 {
-    QString sheet = sheetTemplate();
-    fillInShade(&sheet, shade);
-    fillInSides(&sheet, direction);
-    return withSizes(sheet, scale);
+    return Filling(shade, direction, scale).fillIn(compacted(sheetTemplate()));
 }
 
 QPalette lookPalette(Shade shade)

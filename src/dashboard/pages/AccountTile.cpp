@@ -14,8 +14,11 @@ namespace
 {
 
 const int BAR_HEIGHT = 6; // in pixels at 100 % text size
+const int BAR_END = 10;   // the button of a tile is closer to the border than the bar
 const int ICON_SIZE = 18;
 const int WIDE_HEIGHT = 100;
+const int ICON_ROW = 30;
+const int VALUE_ROW = 28;
 
 } // namespace
 
@@ -47,10 +50,12 @@ void ShareBar::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const double radius = height() / 2.0;
+    const QRect whole = rect().adjusted(0, 0, -px(BAR_END), 0);
     painter.setBrush(look.color(Token::Sunken));
-    painter.drawRoundedRect(QRectF(rect()), radius, radius);
-    QRect filled = rect();
-    filled.setWidth(qRound(width() * m_share));
+    painter.drawRoundedRect(QRectF(QStyle::visualRect(layoutDirection(), rect(), whole)), radius,
+                            radius);
+    QRect filled = whole;
+    filled.setWidth(qRound(whole.width() * m_share));
     painter.setBrush(look.color(Token::Accent));
     if (m_share > 0)
         painter.drawRoundedRect(QRectF(QStyle::visualRect(layoutDirection(), rect(), filled)),
@@ -67,6 +72,7 @@ AccountTile::AccountTile(const char *icon, const char *action, QWidget *parent)
     m_disc->setIcon(icon, Tone::Neutral);
     m_value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     connect(m_action, &QPushButton::clicked, this, &AccountTile::pressed);
+    connect(&Look::instance(), &Look::changed, this, &AccountTile::arrange);
     arrange();
 }
 
@@ -88,9 +94,9 @@ void AccountTile::arrange()
     for (int i = 0; i < m_grid->rowCount(); ++i)
         m_grid->setRowStretch(i, 0);
     setBox(this, m_isNarrow ? "" : "card");
-    m_icon->setVisible(!m_isNarrow);
-    m_disc->setVisible(m_isNarrow);
-    m_action->setVisible(!m_isNarrow);
+    setShown(m_icon, !m_isNarrow);
+    setShown(m_disc, m_isNarrow);
+    setShown(m_action, !m_isNarrow);
     setLabelType(m_value, m_isNarrow ? "strong" : "value");
     if (m_isNarrow)
         arrangeNarrow();
@@ -100,15 +106,19 @@ void AccountTile::arrange()
 
 void AccountTile::arrangeWide()
 {
-    setMargins(m_grid, 16, 6, 12, 12);
+    setMargins(m_grid, 16, 0, 6, 12);
     setMinimumHeight(px(WIDE_HEIGHT));
     m_grid->setHorizontalSpacing(px(8));
     m_grid->setVerticalSpacing(0);
     m_grid->addWidget(m_icon, 0, 0, Qt::AlignVCenter);
     m_grid->addWidget(m_caption, 0, 1);
-    m_grid->addWidget(m_action, 0, 2);
+    // The button is higher than the first row, so that the rows are close together.
+    m_grid->addWidget(m_action, 0, 2, 2, 1, Qt::AlignTop);
     m_grid->addWidget(m_value, 1, 0, 1, 3);
+    m_action->raise();
     m_grid->addWidget(m_note, 2, 0, 1, 3);
+    m_grid->setRowMinimumHeight(0, px(ICON_ROW));
+    m_grid->setRowMinimumHeight(1, px(VALUE_ROW));
     m_grid->setRowMinimumHeight(3, px(8));
     m_grid->addWidget(m_bar, 4, 0, 1, 3);
     m_grid->setColumnStretch(1, 1);
@@ -125,7 +135,8 @@ void AccountTile::arrangeNarrow()
     m_grid->addWidget(m_note, 1, 2, Qt::AlignBottom);
     m_grid->setHorizontalSpacing(px(12));
     m_grid->setVerticalSpacing(0);
-    m_grid->setRowMinimumHeight(3, 0);
+    for (int row : {0, 1, 3})
+        m_grid->setRowMinimumHeight(row, 0);
     m_grid->setColumnStretch(1, 1);
 }
 

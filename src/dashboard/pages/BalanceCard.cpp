@@ -62,6 +62,12 @@ BalanceCard::BalanceCard(QWidget *parent)
         label->setWordWrap(true);
     setSpacing(m_layout, 4);
     setNarrow(false);
+    connect(&Look::instance(), &Look::changed, this, &BalanceCard::limitHeight);
+}
+
+void BalanceCard::limitHeight()
+{
+    setMinimumHeight(m_isNarrow ? 0 : px(WIDE_HEIGHT));
 }
 
 QLayout *BalanceCard::makeHead()
@@ -166,6 +172,8 @@ void BalanceCard::showIcons(bool areShown)
 /// others. If this is not sufficient, arranges the buttons vertically.
 void BalanceCard::arrangeButtons()
 {
+    if (!isVisible())
+        return; // the card is resized when it is shown
     const QMargins margins = m_layout->contentsMargins();
     const int room = width() - margins.left() - margins.right();
     const QString text = dashboardText("HOME_SHOW_REPLY");
@@ -199,9 +207,9 @@ void BalanceCard::setNarrow(bool isNarrow)
     if (isNarrow)
         setMargins(m_layout, 20, 14, 20, 16);
     else
-        setMargins(m_layout, 24, 18, 24, 20);
+        setMargins(m_layout, 24, 20, 24, 20);
     m_chipRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    setMinimumHeight(isNarrow ? 0 : px(WIDE_HEIGHT));
+    limitHeight();
     // In the narrow form, there is no space for a third button in the row.
     if (isNarrow)
         m_validityRow->addWidget(m_show);
@@ -262,7 +270,9 @@ void BalanceCard::showButtons()
     m_topUp->setEnabled(!isAsking);
     m_ask->setText(isAsking ? dashboardText("HOME_ASKING").arg(m_view.askingSeconds)
                             : dashboardText(isAsked ? "HOME_ASK_AGAIN" : "HOME_ASK_NOW"));
-    m_ask->setEnabled(m_view.canAsk && !isAsking);
+    // While the reply is pending, the button stays enabled, because a disabled button would lose
+    // the focus. HomePage ignores the button during this time.
+    m_ask->setEnabled(m_view.canAsk || isAsking);
     m_ask->setToolTip(m_view.isMenuOpen ? dashboardText("HOME_END_MENU_FIRST") : QString());
     m_show->setVisible(isAsked);
     m_show->setAccessibleName(dashboardText("HOME_SHOW_REPLY"));

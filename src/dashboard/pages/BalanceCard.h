@@ -57,6 +57,7 @@ private:
     QLayout *makeValidity();
     QWidget *makeButtons();
     int rowWidth() const;
+    void limitHeight();
     void arrangeHead();
     void showIcons(bool areShown);
     void arrangeButtons();

@@ -265,6 +265,8 @@ void CodesPage::followStrip()
     connect(m_strip, &StateStrip::cancelled, commands, &CommandMonitor::cancel);
     connect(m_strip, &StateStrip::menuEnded, commands, &CommandMonitor::endMenu);
     connect(m_strip, &StateStrip::dismissed, commands, &CommandMonitor::dismiss);
+    for (const auto signal : {&StateStrip::menuEnded, &StateStrip::dismissed})
+        connect(m_strip, signal, this, &CodesPage::focusField);
     connect(m_strip, &StateStrip::sentAgain, commands, &CommandMonitor::sendAgain);
     connect(m_strip, &StateStrip::answered, commands, &CommandMonitor::answer);
     connect(m_strip, &StateStrip::detailsRequested, this, &CodesPage::showDetails);
@@ -518,6 +520,13 @@ void CodesPage::makeShortcuts()
     for (int digit = 0; digit < CHOICE_KEYS; ++digit)
         addShortcut("Dashboard_ChoiceKey", QKeySequence(int(Qt::ALT) + Qt::Key_0 + digit),
                     [this, digit] { answerNumber(digit); });
+}
+
+/// Moves the focus to the command field, because the button that the user has pressed disappears.
+void CodesPage::focusField()
+{
+    if (QLineEdit *field = general().commandEdit())
+        field->setFocus();
 }
 
 void CodesPage::stop()

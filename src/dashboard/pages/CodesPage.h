@@ -122,6 +122,7 @@ private:
     void showStop(const ChainState &chain);
     QList<CodeName> chainNames() const;
     void showDetails();
+    void focusField();
     void showCodesSheet();
     void showTopUpSheet();
     QList<QPushButton *> presets() const;

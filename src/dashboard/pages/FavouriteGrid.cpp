@@ -88,7 +88,7 @@ QFont FavouriteButton::textFont(int size, bool isBold) const
 {
     QFont sized = font();
     sized.setPixelSize(px(size));
-    sized.setWeight(isBold ? QFont::DemiBold : QFont::Normal);
+    sized.setWeight(isBold ? STRONG_WEIGHT : QFont::Normal);
     return sized;
 }
 

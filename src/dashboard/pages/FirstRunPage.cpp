@@ -11,6 +11,7 @@
 #include "device/DeviceWatcher.h"
 #include "Languages.h"
 #include "look/Controls.h"
+#include "look/Look.h"
 #include "OperatorOption.h"
 #include "PageColumn.h"
 #include "ProviderChoice.h"
@@ -27,6 +28,8 @@ namespace
 
 const int WIDEST = 640; // in pixels at 100 % text size
 const int SHOWN_DIGITS = 4;
+const int COSTS_ICON = 16;
+const int COSTS_GAP = 8;
 
 bool isAboutModem(Situation::Kind kind)
 {
@@ -138,27 +141,50 @@ FirstRunPage::FirstRunPage(DashboardSettings *settings, const DeviceWatcher *dev
       m_choice(new FirstRunStep("Dashboard_FirstRunChoice", this)), m_list(new QVBoxLayout),
       m_group(new QButtonGroup(this)), m_demonstration(makeButton("ghost", this)),
       m_notNow(makeButton("", this)), m_use(makeButton("primary", this)),
-      m_costs(makeLabel("cap", this))
+      m_costsIcon(new IconView(this)), m_costs(makeLabel("cap", this))
 {
     QVBoxLayout *page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
     page->addWidget(m_column);
     m_intro->setWordWrap(true);
-    m_costs->setWordWrap(true);
     m_card->installEventFilter(this);
-    m_costs->setAlignment(Qt::AlignCenter);
     makeCard();
     m_language->setObjectName(QLatin1String("Dashboard_FirstRunLanguage"));
     m_language->setMenu(languageMenu);
     m_column->column()->addWidget(m_language, 0, Qt::AlignTrailing);
     m_column->column()->addStretch(1);
     m_column->column()->addWidget(m_card);
-    m_column->column()->addWidget(m_costs);
+    m_column->column()->addLayout(makeCosts());
     m_column->column()->addStretch(1);
     connect(m_group, &QButtonGroup::idClicked, this, &FirstRunPage::showChoice);
     for (const FirstRunStep *step : {m_modem, m_sim, m_choice})
         connect(step, &FirstRunStep::chosen, this, &FirstRunPage::chosen);
     retranslate();
+}
+
+QLayout *FirstRunPage::makeCosts()
+{
+    m_costsIcon->setIcon("lock", Token::Text3, COSTS_ICON);
+    m_costsIcon->setObjectName(QLatin1String("Dashboard_FirstRunCostsIcon"));
+    m_costs->setWordWrap(true);
+    m_costs->setObjectName(QLatin1String("Dashboard_FirstRunCosts"));
+    QHBoxLayout *row = new QHBoxLayout;
+    setSpacing(row, COSTS_GAP);
+    row->addStretch(1);
+    row->addWidget(m_costsIcon, 0, Qt::AlignTop);
+    row->addWidget(m_costs);
+    row->addStretch(1);
+    return row;
+}
+
+/// Keeps the note in one line if there is space, because a label that wraps its text prefers two.
+void FirstRunPage::limitCosts()
+{
+    m_costs->ensurePolished();
+    const int room = m_card->width() - m_costsIcon->sizeHint().width() - 3 * px(COSTS_GAP);
+    if (room > 0)
+        m_costs->setFixedWidth(
+            qMin(m_costs->fontMetrics().horizontalAdvance(m_costs->text()) + 2, room));
 }
 
 void FirstRunPage::makeCard()
@@ -222,11 +248,9 @@ void FirstRunPage::showSituation(const Situation &situation)
 void FirstRunPage::showSteps()
 {
     const DeviceStatus &status = m_device->status();
-    const Remedy remedy = m_situation.remedies.value(0, Remedy::None);
     m_modem->setDone(m_situation.icon ? m_situation.icon : "modem", hasModem());
     m_sim->setDone(hasModem() && m_situation.icon ? m_situation.icon : "sim", hasSim());
-    m_modem->setRemedy(hasModem() ? Remedy::None : remedy);
-    m_sim->setRemedy(hasModem() && !hasSim() ? remedy : Remedy::None);
+    showRemedies();
     if (hasModem())
         m_modem->setTexts(dashboardText("FIRST_MODEM_FOUND"), status.source);
     else
@@ -240,6 +264,32 @@ void FirstRunPage::showSteps()
     else
         m_sim->setTexts(dashboardText("FIRST_SIM_LATER"), QString());
     showChoice();
+}
+
+/// Shows the button of the step that is not completed. If the button of a completed step had the
+/// focus, the page keeps the focus until passFocusOn() finds the next step. Otherwise, the next key
+/// could start the demonstration.
+void FirstRunPage::showRemedies()
+{
+    const QWidget *const focus = window()->focusWidget();
+    const Remedy remedy = m_situation.remedies.value(0, Remedy::None);
+    m_modem->setRemedy(hasModem() ? Remedy::None : remedy);
+    m_sim->setRemedy(hasModem() && !hasSim() ? remedy : Remedy::None);
+    if (focus && (focus == m_modem->button() || focus == m_sim->button()) && focus->isHidden())
+        setFocus();
+    passFocusOn();
+}
+
+void FirstRunPage::passFocusOn()
+{
+    if (window()->focusWidget() != this)
+        return;
+    for (FirstRunStep *step : {m_modem, m_sim}) {
+        if (!step->button()->isHidden())
+            return step->button()->setFocus();
+    }
+    if (!m_options.isEmpty())
+        m_options.first()->setFocus();
 }
 
 /// Returns the text of the third step.
@@ -271,6 +321,7 @@ void FirstRunPage::listOperators()
     if (isCertain && m_providers.size() == 1)
         m_options.first()->setChecked(true);
     retranslate();
+    passFocusOn();
 }
 
 void FirstRunPage::addOption(const QString &title, const QString &text)
@@ -326,6 +377,7 @@ void FirstRunPage::retranslate()
     m_title->setText(dashboardText("FIRST_TITLE"));
     m_intro->setText(dashboardText("FIRST_INTRO"));
     m_costs->setText(dashboardText("FIRST_COSTS"));
+    limitCosts();
     m_demonstration->setText(dashboardText("FIRST_DEMONSTRATION"));
     m_notNow->setText(dashboardText("FIRST_NOT_NOW"));
     for (int i = 0; i < m_options.size(); ++i) {
@@ -351,8 +403,10 @@ void FirstRunPage::setForm(Form form)
 bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
-    if (watched == m_card && (type == QEvent::Resize || type == QEvent::LayoutRequest))
+    if (watched == m_card && (type == QEvent::Resize || type == QEvent::LayoutRequest)) {
         arrangeButtons();
+        limitCosts();
+    }
     return Page::eventFilter(watched, event);
 }
 

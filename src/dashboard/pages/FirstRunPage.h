@@ -11,6 +11,7 @@ class QBoxLayout;
 class QButtonGroup;
 class QFrame;
 class QLabel;
+class QLayout;
 class QMenu;
 class QPushButton;
 class QVBoxLayout;
@@ -43,6 +44,7 @@ public:
     void setTexts(const QString &title, const QString &text);
     /// Shows the button for the remedy, or hides it if the remedy is Remedy::None.
     void setRemedy(Remedy remedy);
+    QPushButton *button() const { return m_button; }
 
 signals:
     void chosen(Dashboard::Remedy remedy);
@@ -98,9 +100,13 @@ private:
     void finish();
     void showChoice();
     void showSteps();
+    void showRemedies();
+    void passFocusOn();
     bool hasModem() const;
     bool hasSim() const;
     QString choiceText() const;
+    QLayout *makeCosts();
+    void limitCosts();
 
     DashboardSettings *const m_settings;
     const DeviceWatcher *const m_device;
@@ -122,6 +128,7 @@ private:
     QPushButton *m_demonstration;
     QPushButton *m_notNow;
     QPushButton *m_use;
+    IconView *m_costsIcon;
     QLabel *m_costs;
     QBoxLayout *m_buttons = nullptr;
 };

@@ -1,8 +1,9 @@
 #include "GeneralArea.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 
 #include "IUIPlugin.h"
 #include "plugin/LoadedPlugin.h"
@@ -26,6 +27,16 @@ bool isPresetPart(const QObject *object)
            name == QLatin1String("USSDUIPlugin_AdvancedDialog_InfoNumLabel");
 }
 
+/// Returns true if the user types or has moved the focus with a key. The plug-in also moves the
+/// focus when a reply arrives.
+bool isByKeyboard(const QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        return true;
+    return event->type() == QEvent::FocusIn &&
+           static_cast<const QFocusEvent *>(event)->reason() == Qt::ShortcutFocusReason;
+}
+
 } // namespace
 
 GeneralArea::GeneralArea(LoadedPlugin *plugin, QWidget *parent)
@@ -44,6 +55,13 @@ GeneralArea::GeneralArea(LoadedPlugin *plugin, QWidget *parent)
     setFocusPolicy(Qt::NoFocus);
 }
 
+/// Scrolls to the command field, so that users see what they type.
+void GeneralArea::showField()
+{
+    if (QLineEdit *field = general().commandEdit())
+        ensureWidgetVisible(field, 0, COMPACT_MARGIN);
+}
+
 void GeneralArea::showWindow()
 {
     if (!m_plugin->isUsable())
@@ -54,6 +72,8 @@ void GeneralArea::showWindow()
     m_isShown = true;
     general().hideUnusedPresets();
     watchPresets();
+    if (QLineEdit *field = general().commandEdit())
+        field->installEventFilter(this);
     setWindowEnabled(m_isEnabled);
     makeRoom();
     fit();
@@ -96,13 +116,18 @@ bool GeneralArea::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_canvas && event->type() == QEvent::Resize) {
         m_text->setGeometry(m_canvas->rect());
         fit();
-    } else if (watched == m_canvas && event->type() == QEvent::LayoutRequest) {
+    } else if (watched == m_canvas &&
+               (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)) {
+        // A hidden canvas does not receive layout requests.
         makeRoom();
         fit();
     } else if (m_isCompact && event->type() == QEvent::ShowToParent && isPresetPart(watched)) {
         QMetaObject::invokeMethod(
             this, [this] { hidePresets(); }, Qt::QueuedConnection);
     } else if (watched != m_canvas) {
+        if (watched->objectName() == QLatin1String(GeneralWindow::COMMAND_EDIT) &&
+            isByKeyboard(event))
+            showField();
         return QScrollArea::eventFilter(watched, event);
     }
     return false;

@@ -48,6 +48,7 @@ private:
     QMargins clipped() const;
     QMargins compactMargins() const;
     void makeRoom();
+    void showField();
     void fit();
     void watchPresets();
     void hidePresets();

@@ -58,6 +58,12 @@ HomePage::HomePage(const Parts &parts, QWidget *parent)
     makeFavourites();
     makeMessage();
     m_column->column()->addStretch(1);
+    // Hides the cards until look() has decided which of them to show. The layout of the window
+    // would load the fonts of all cards, and each font takes more than one per cent of the start
+    // time.
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_state, m_account, m_tiles, m_favourites})
+        part->hide();
     connect(m_state, &StateCard::chosen, this,
             [this](Remedy remedy) { m_parts.actions->perform(remedy); });
     connect(m_parts.store, &AccountStore::changed, this, &HomePage::lookSoon);
@@ -228,9 +234,13 @@ int HomePage::rowWidth(const QList<QWidget *> &widgets)
     return width;
 }
 
-/// Arranges the cards vertically if there is not enough space for them in a row.
+/// Arranges the cards vertically if there is not enough space for them in a row. Does nothing while
+/// they are hidden, because measuring them loads fonts that are not needed yet. look() arranges
+/// them when it shows them.
 void HomePage::arrangeCards()
 {
+    if (!isVisible() || !isNormal())
+        return;
     const int room = width() - px(2 * MARGIN + SCROLL_BAR);
     const bool isNarrow = m_form == Form::Narrow;
     const bool isAccountColumn = isNarrow || rowWidth({m_balance, m_chart}) > room;
@@ -278,10 +288,33 @@ void HomePage::look()
     m_isLooking = false;
     if (!isVisible())
         return;
+    QWidget *const focus = window()->focusWidget();
     lookAtSituation();
     lookAtFavourites();
-    if (!isNormal())
-        return;
+    if (isNormal())
+        lookAtAccount();
+    keepFocus(focus);
+}
+
+/// If the update has disabled the widget with the focus, moves the focus to the button that shows
+/// the progress. Returns the focus when a later update enables the widget again.
+void HomePage::keepFocus(QWidget *focus)
+{
+    QPushButton *const ask = m_balance->askButton();
+    if (focus && isAncestorOf(focus) && focus->isVisible() && !focus->isEnabled()) {
+        if (ask->isVisible() && ask->isEnabled())
+            ask->setFocus();
+        m_disabledFocus = focus;
+        m_refuge = window()->focusWidget();
+    } else if (m_disabledFocus && m_disabledFocus->isEnabled()) {
+        if (m_refuge == window()->focusWidget())
+            m_disabledFocus->setFocus();
+        m_disabledFocus.clear();
+    }
+}
+
+void HomePage::lookAtAccount()
+{
     lookAtBalance();
     lookAtTiles();
     const bool hasChart = m_form != Form::Narrow && !m_codes.balance.isEmpty();
@@ -372,8 +405,8 @@ void HomePage::lookAtTiles()
     lookAtNumber();
     lookAtValidity();
     lookAtData();
-    for (AccountTile *tile : {m_validity, m_data})
-        tile->setActionEnabled(canSend());
+    m_validity->setActionEnabled(canSend() || askingSeconds(validityEntry().code) >= 0);
+    m_data->setActionEnabled(canSend() || askingSeconds(m_codes.data) >= 0);
     const bool areBoth = m_form == Form::Narrow && !m_number->isHidden() && !m_data->isHidden();
     m_tileLine->setVisible(areBoth);
     m_tiles->setVisible(!m_number->isHidden() || !m_validity->isHidden() || !m_data->isHidden());

@@ -91,6 +91,8 @@ private:
     void makeFavourites();
     void makeMessage();
     void lookSoon();
+    void lookAtAccount();
+    void keepFocus(QWidget *focus);
     void lookAtBalance();
     void lookAtTiles();
     void lookAtNumber();
@@ -117,6 +119,8 @@ private:
     HomeMessage m_message;
     Form m_form = Form::Wide;
     bool m_isLooking = false;
+    QPointer<QWidget> m_disabledFocus; // had the focus until the page disabled it
+    QPointer<QWidget> m_refuge;        // has received this focus
     PageColumn *m_column;
     StateCard *m_state;
     QWidget *m_account;

@@ -6,6 +6,7 @@
 
 #include "base/ClockText.h"
 #include "base/DashboardText.h"
+#include "base/Isolate.h"
 #include "look/Controls.h"
 #include "look/Icons.h"
 #include "look/Look.h"
@@ -95,7 +96,7 @@ private:
             return;
         QRect day = m_row;
         day.setHeight(px(DAY_HEIGHT));
-        drawText(day, m_day, fontOf(13, QFont::DemiBold), Token::Text2,
+        drawText(day, m_day, fontOf(13, STRONG_WEIGHT), Token::Text2,
                  Qt::AlignLeft | Qt::AlignVCenter);
         m_row.setTop(day.bottom() + 1);
     }
@@ -151,7 +152,7 @@ private:
         drawText(QRect(end - width, top, width, height), time, timeFont, Token::Text2,
                  Qt::AlignRight | Qt::AlignVCenter);
         const QRect sender(textStart(), top, end - width - px(8) - textStart(), height);
-        drawText(sender, m_message.sender, fontOf(14, QFont::DemiBold), Token::Text,
+        drawText(sender, isolatedWords(m_message.sender), fontOf(14, STRONG_WEIGHT), Token::Text,
                  Qt::AlignLeft | Qt::AlignVCenter);
     }
 
@@ -167,7 +168,7 @@ private:
 
     void paintChip()
     {
-        const QFont font = fontOf(12, QFont::DemiBold);
+        const QFont font = fontOf(12, STRONG_WEIGHT);
         const QString text = dashboardText("MESSAGE_WAITS");
         const int width =
             qMin(QFontMetrics(font).horizontalAdvance(text) + px(20), textEnd() - textStart());

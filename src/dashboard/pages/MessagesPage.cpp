@@ -25,7 +25,9 @@ namespace Dashboard
 namespace
 {
 
-const int LIST_WIDTH = 360; // in pixels at 100 % text size
+const int LIST_WIDTH = 360;    // in pixels at 100 % text size
+const int FILTER_PADDING = 14; // as in the style sheet
+const int FILTER_BORDERS = 2;
 
 /** A filter for the list, and the text keys of its name with and without the number of messages. */
 struct FilterText {
@@ -42,6 +44,17 @@ const FilterText FILTERS[] = {
     {MessageQuery::Filter::Waiting, "Dashboard_MessagesWaiting", "MESSAGE_WAITING_NONE",
      "MESSAGE_WAITING_COUNT"},
 };
+
+/// Returns the width of the filter if it is checked. The style makes the text bold, but computes
+/// the width of the button from the normal text.
+int checkedWidth(QPushButton *filter)
+{
+    filter->ensurePolished();
+    QFont bold = filter->font();
+    bold.setWeight(QFont::DemiBold);
+    const int text = QFontMetrics(bold).horizontalAdvance(filter->text());
+    return text + 2 * px(FILTER_PADDING) + FILTER_BORDERS;
+}
 
 } // namespace
 
@@ -69,6 +82,7 @@ MessagesPage::MessagesPage(MessageStore *store, CommandMonitor *monitor, QWidget
     connectParts();
     setTabOrders();
     connect(&Look::instance(), &Look::changed, this, &MessagesPage::showParts);
+    connect(&Look::instance(), &Look::changed, this, &MessagesPage::showCounts);
     retranslate();
     setForm(Form::Wide);
 }
@@ -193,6 +207,7 @@ void MessagesPage::showCounts()
         const char *key = counts[i] > 0 ? FILTERS[i].textWithCount : FILTERS[i].text;
         const QString text = dashboardText(key);
         m_filters[i]->setText(counts[i] > 0 ? text.arg(counts[i]) : text);
+        m_filters[i]->setMinimumWidth(checkedWidth(m_filters[i]));
     }
     m_markAll->setEnabled(counts[1] > 0);
     const bool isEmpty = m_model->rowCount() == 0;

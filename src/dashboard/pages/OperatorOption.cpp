@@ -80,7 +80,7 @@ void OperatorOption::paintEvent(QPaintEvent *)
     const int start = px(MARGIN + DISC + GAP);
     const int width = this->width() - start - px(MARGIN);
     const int flags = int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
-    painter.setFont(sized(font(), TITLE_SIZE, QFont::DemiBold));
+    painter.setFont(sized(font(), TITLE_SIZE, STRONG_WEIGHT));
     painter.setPen(look.color(Token::Text));
     painter.drawText(mirrored(QRect(start, 0, width, height() / 2)), flags | Qt::AlignBottom,
                      painter.fontMetrics().elidedText(accessibleName(), Qt::ElideRight, width));

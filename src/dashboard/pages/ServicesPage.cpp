@@ -190,13 +190,26 @@ void ServicesPage::makeNotice()
             [this](Remedy remedy) { m_actions->perform(remedy); });
 }
 
+/// Returns the services of the services window, or an empty list if this window is not available.
+QList<Service> ServicesPage::services() const
+{
+    return m_isOffered ? Dashboard::readServices(CommonUtils::GetPluginLibraryPath())
+                       : QList<Service>();
+}
+
 void ServicesPage::readServices()
 {
-    const QList<Service> services = Dashboard::readServices(CommonUtils::GetPluginLibraryPath());
+    const QList<Service> services = this->services();
     if (services == m_services)
         return;
     m_services = services;
     showServices();
+}
+
+void ServicesPage::setOffered(bool isOffered)
+{
+    m_isOffered = isOffered;
+    readServices();
 }
 
 void ServicesPage::setOperatorName(const QString &name)
@@ -254,7 +267,7 @@ void ServicesPage::retranslate()
     m_byCode->setTitle(dashboardText("SERVICE_BY_CODE"));
     m_byText->setTitle(dashboardText("SERVICE_BY_TEXT"));
     setOperatorName(m_operatorName);
-    m_services = Dashboard::readServices(CommonUtils::GetPluginLibraryPath());
+    m_services = services();
     showServices();
 }
 

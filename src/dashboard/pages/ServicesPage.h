@@ -67,6 +67,9 @@ public:
     /// Shows the situation of the device if it prevents the services from being used.
     void setSituation(const Situation &situation);
     /// Sets whether a menu is open. In this case, the services cannot be used.
+    /// Sets whether the services window is available for the SIM. Without it, no services are
+    /// shown.
+    void setOffered(bool isOffered);
     void setMenuOpen(bool isOpen);
 
     void retranslate() override;
@@ -75,6 +78,7 @@ public:
 
 private:
     void makeNotice();
+    QList<Service> services() const;
     void showServices();
     void update();
     bool isUsable() const;
@@ -84,6 +88,7 @@ private:
     QString m_operatorName;
     Situation m_situation;
     bool m_isMenuOpen = false;
+    bool m_isOffered = true;
     PageColumn *m_column;
     QLabel *m_title;
     QLabel *m_intro;

@@ -155,7 +155,6 @@ void SettingsPage::makeNotifications()
     QHBoxLayout *line = new QHBoxLayout(low);
     line->setContentsMargins(0, 0, 0, 0);
     m_amount = named(new QLineEdit(low), "Dashboard_SettingsAmount");
-    m_amount->setFixedWidth(px(AMOUNT_WIDTH));
     m_amount->setLayoutDirection(Qt::LeftToRight);
     m_amount->setValidator(new QRegularExpressionValidator(
         QRegularExpression(QLatin1String("[0-9]{1,7}([.][0-9]{1,2})?")), m_amount));
@@ -224,6 +223,7 @@ void SettingsPage::nameTextSizes()
 void SettingsPage::showValues()
 {
     const DashboardSettings *settings = m_parts.settings;
+    m_amount->setFixedWidth(px(AMOUNT_WIDTH));
     m_theme->setCurrent(settings ? themeIndex(settings->theme())
                                  : indexOf(CHOICES, Look::instance().theme()));
     m_textSize->setCurrent(indexOf(TEXT_SIZES, settings ? settings->textSize() : TEXT_SIZES[0]));

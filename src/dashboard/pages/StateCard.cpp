@@ -105,7 +105,7 @@ void RemedyButtons::setRemedies(const QList<Remedy> &remedies)
     }
     for (int i = 0; i < m_buttons.size(); ++i)
         setRemedyButton(m_buttons.at(i), m_remedies.at(i), i == 0);
-    setVisible(!m_remedies.isEmpty());
+    setShown(this, !m_remedies.isEmpty());
     updateGeometry();
     arrange();
 }

@@ -327,7 +327,8 @@ void StateStrip::updateEndButtons()
     m_end->setVisible(!isBlockedNow && m_state.kind == Kind::MenuOpen);
     m_dismiss->setVisible(!isBlockedNow && (isOver || isStopped));
     const bool isNarrow = m_form == Form::Narrow;
-    m_copy->setVisible(!isBlockedNow && !isNarrow && !m_state.isPending());
+    // The explanation of a failure needs the room; the menu contains the same action.
+    m_copy->setVisible(!isBlockedNow && !isNarrow && !isOver && !m_state.isPending());
     m_more->setVisible(!isBlockedNow && (isRest || (!isNarrow && !m_state.isPending())));
     // In the narrow form, the title needs the room.
     for (QPushButton *button : {m_history, m_dismiss}) {

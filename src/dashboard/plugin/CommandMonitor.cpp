@@ -361,6 +361,8 @@ void CommandMonitor::fail(const TKSV_FailureInfo &failure)
     m_state.code = code;
     m_state.failure = failure.reason;
     m_state.mayBeSentAgain = Formats::isUssdCode(code) && Dashboard::mayBeSentAgain(failure);
+    if (mayHaveBeenExecuted(failure))
+        emit leftOpen(code);
 }
 
 /// Sets the kind of the state and clears all other values.

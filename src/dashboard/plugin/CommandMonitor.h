@@ -123,6 +123,8 @@ signals:
     /// `code` is the command to which the reply belongs, or an empty string if the network has
     /// initiated the message.
     void replied(const QString &code, const Dashboard::Reply &reply);
+    /// Emitted when a command has ended without a reply, although the network may have executed it.
+    void leftOpen(const QString &code);
     /// Emitted when the user has sent a code in a general window. `code` contains no number or PIN.
     void sent(const QString &code);
 

@@ -44,7 +44,6 @@ public:
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
 
-    bool hasPresets() const { return m_presetButton; }
     /// If there are no preset buttons, hides the field for their numbers and enlarges the
     /// transcript to use their space.
     void hideUnusedPresets() const;

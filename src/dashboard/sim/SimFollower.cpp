@@ -33,6 +33,13 @@ void SimFollower::start()
     offer();
 }
 
+void SimFollower::resume()
+{
+    if (currentImsi() != m_imsi)
+        return start();
+    emit windowsOffered(windowsForSim(m_plugin->ussd(), m_imsi));
+}
+
 /// Returns the IMSI of the SIM. While the device is absent, returns the previous IMSI, because the
 /// device may return with the same SIM.
 QString SimFollower::currentImsi() const

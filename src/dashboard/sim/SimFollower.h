@@ -41,6 +41,9 @@ public:
 public slots:
     /// Starts observing the SIM. Must be called each time the plug-in has been loaded or restarted.
     void start();
+    /// Like start(), but keeps the type of contract of the same SIM, and does not repeat the query.
+    /// Must be called if the plug-in has been restarted with the same configuration.
+    void resume();
     /// Must be called when a network-initiated message requires an answer. The query is not sent
     /// until this session has ended.
     void questionCame();

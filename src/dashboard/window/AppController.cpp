@@ -1,7 +1,5 @@
 #include "AppController.h"
 
-#include <QFileInfo>
-
 #include "base/DashboardText.h"
 #include "device/DashboardSettings.h"
 #include "IUIPlugin.h"
@@ -9,7 +7,6 @@
 #include "LanguageProblem.h"
 #include "Languages.h"
 #include "plugin/LoadedPlugin.h"
-#include "plugin/ProfileBackup.h"
 #include "plugin/TranscriptColors.h"
 #include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
@@ -23,11 +20,6 @@ namespace
 const char DETECT_PAID_TYPE[] = "USSD_DETECT_PAID_TYPE";
 const char SWITCHED_ON[] = "1";
 const int LONGEST_DELAY = 5000; // ms; the maximum time for which opening a frame is delayed
-
-QDateTime ownCodesTime()
-{
-    return QFileInfo(ProfileBackup::ofUser().userFile()).lastModified();
-}
 
 /// Returns true if opening a window of this PAID_TYPE ends an open session on the device.
 bool endsSession(int paidType)
@@ -70,7 +62,6 @@ void AppController::followOperator()
     connect(&m_operatorCodes, &OperatorCodes::folderChanged, this, &AppController::beginAnew);
     connect(&m_sim, &SimFollower::commandEnded, this, &AppController::beginAnewIfDue);
     connect(&m_sim, &SimFollower::frameClosed, this, &AppController::beginAnewIfDue);
-    connect(&m_sim, &SimFollower::frameClosed, this, &AppController::showFirstOwnCodes);
 }
 
 void AppController::start()
@@ -115,38 +106,39 @@ void AppController::beginAnewIfDue()
         restartPlugin();
 }
 
-/// Restarts the plug-in if the user has saved the first codes in the editor. The plug-in creates
-/// preset buttons only together with the general window, so an existing window without buttons
-/// would not show the new codes.
-void AppController::showFirstOwnCodes()
-{
-    const bool isWithoutPresets = m_operatorCodes.areAbsent() && !pageWindow().hasPresets();
-    if (isWithoutPresets && ownCodesTime() != m_ownCodesTime)
-        beginAnew();
-}
-
 PluginFailure AppController::loadPlugin()
 {
     m_operatorCodes.look();
     m_isRestartDue = false;
-    return startWith(m_plugin->load(LoadedPlugin::installedFile()));
+    return startWith(m_plugin->load(LoadedPlugin::installedFile()), &SimFollower::start);
 }
 
 PluginFailure AppController::restartPlugin()
 {
     m_isRestartDue = false;
     m_windows = 0; // the restart deletes the plug-in's windows
-    return startWith(m_plugin->restart());
+    return startWith(m_plugin->restart(), &SimFollower::start);
 }
 
-PluginFailure AppController::startWith(const PluginFailure &failure)
+bool AppController::renewOwnCodes()
 {
-    m_ownCodesTime = ownCodesTime();
+    const bool isBusy = UserActivity::isBusy() || m_sim.isAsking() || m_monitor.hasTypedText();
+    if (isBusy || m_isRestartDue || !m_plugin->isUsable())
+        return false;
+    m_windows = 0;
+    startWith(m_plugin->restart(), &SimFollower::resume);
+    return true;
+}
+
+/// `start` makes the follower observe the SIM after the start of the plug-in.
+PluginFailure AppController::startWith(const PluginFailure &failure, void (SimFollower::*start)())
+{
+    m_started = failure;
     m_monitor.forget();
     warnAboutPaleTranscript();
     emit pluginStarted(failure);
     if (m_plugin->isUsable())
-        m_sim.start();
+        (m_sim.*start)();
     return failure;
 }
 

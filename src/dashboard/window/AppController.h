@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 #include "device/DeviceChoice.h"
 #include "device/DeviceWatcher.h"
@@ -62,6 +63,8 @@ public:
 
     /// Returns the windows that are offered for the SIM, as a combination of SimWindow flags.
     int windows() const { return m_windows; }
+    /// Returns the result of the last attempt to start the plug-in, or nothing before the first.
+    const std::optional<PluginFailure> &started() const { return m_started; }
     bool isDetectionOn() const { return m_isDetectionOn; }
     /// Enables or disables the prepaid/postpaid query and stores the decision in the settings.
     void setDetection(bool isOn);
@@ -79,6 +82,10 @@ public slots:
     PluginFailure restartPlugin();
     /// Restarts the plug-in as soon as the user is not busy.
     void beginAnew();
+    /// Restarts the plug-in so that it reads the user's own codes again. Returns false without a
+    /// restart if a window of the plug-in is open, a command is in flight, or the command field
+    /// contains a code that has not been sent. Does not repeat the prepaid/postpaid query.
+    bool renewOwnCodes();
     /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. If this would cancel the
     /// prepaid/postpaid query, the frame opens after a short delay.
     void openFrame(int paidType);
@@ -107,9 +114,8 @@ private:
     void followSim();
     void followOperator();
     bool mayDetectPaidType() const;
-    PluginFailure startWith(const PluginFailure &failure);
+    PluginFailure startWith(const PluginFailure &failure, void (SimFollower::*start)());
     void offerWindows(int windows);
-    void showFirstOwnCodes();
     void onPaidTypeChanged();
     void onText(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
     void openAwaitedFrame();
@@ -127,8 +133,8 @@ private:
     DeviceChoice m_choice;
     bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
     bool m_isRestartDue = false;  // true if the plug-in must read its folder again
-    QDateTime m_ownCodesTime; // the modification time of the user's codes when they were last read
-    int m_windows = 0;        // a combination of SimWindow flags
+    std::optional<PluginFailure> m_started;
+    int m_windows = 0; // a combination of SimWindow flags
     int m_awaitedFrame;
     QTimer m_frameDelay;
 };

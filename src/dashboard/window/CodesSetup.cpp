@@ -63,6 +63,9 @@ CodesSetup::CodesSetup(AppController *controller, AppActions *actions, Favourite
     connect(controller, &AppController::pluginStarted, this, &CodesSetup::onPluginStarted);
     connect(controller, &AppController::windowsOffered, this, &CodesSetup::offerWindow);
     connect(controller, &AppController::frameClosed, this, &CodesSetup::onFrameClosed);
+    connect(controller, &AppController::commandEnded, this, &CodesSetup::makePresets);
+    connect(controller, &AppController::paidTypeChanged, this, &CodesSetup::makePresets,
+            Qt::QueuedConnection);
     connect(&m_history, &CodeHistory::notWritten, controller, [controller](const QString &error) {
         emit controller->problem(dashboardText("HISTORY_NOT_WRITTEN").arg(error));
     });
@@ -104,21 +107,34 @@ QList<CodeName> CodesSetup::names() const
     return names;
 }
 
-/// Looks for codes that the user has saved in the profile editor. If there is room for
-/// more buttons, restarts the plug-in so that it creates a button for each new code.
+/// Looks for codes that the user has saved in the profile editor. Keeps the codes from earlier
+/// calls, because the editor may have been opened from another frame that was still open.
 void CodesSetup::onFrameClosed()
 {
     const QStringList known = m_known;
     readCodes();
-    m_new.clear();
     for (const QString &code : m_known) {
         if (!known.contains(code))
             m_new << code;
     }
-    if (!m_new.isEmpty() && m_page->canMakePresets())
-        m_controller->beginAnew();
-    else
-        reportNewCodes();
+    makePresets();
+}
+
+/// If there is room for more buttons, restarts the plug-in so that it creates a button for each new
+/// code. Postpones the restart until the user is idle and has sent or deleted the typed code.
+void CodesSetup::makePresets()
+{
+    if (m_new.isEmpty())
+        return;
+    if (m_page->canMakePresets() && !m_controller->renewOwnCodes()) {
+        if (const QLineEdit *field = m_page->general().commandEdit())
+            connect(field, &QLineEdit::textChanged, this, &CodesSetup::makePresets,
+                    Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+        return;
+    }
+    m_saved += m_new;
+    m_new.clear();
+    reportSaved();
 }
 
 void CodesSetup::showNewCodes()
@@ -127,17 +143,17 @@ void CodesSetup::showNewCodes()
     m_page->openHistoryAt(m_reported);
 }
 
-void CodesSetup::reportNewCodes()
+void CodesSetup::reportSaved()
 {
     QStringList names;
     for (const NamedCode &named : codesInUse()) {
-        if (!m_new.contains(named.code) || m_page->hasPreset(named.name))
+        if (!m_saved.contains(named.code) || m_page->hasPreset(named.name))
             continue;
         if (names.isEmpty())
             m_reported = shownCode(named.code);
         names << named.name;
     }
-    m_new.clear();
+    m_saved.clear();
     if (!names.isEmpty())
         emit savedWithoutButton(names);
 }
@@ -170,9 +186,20 @@ void CodesSetup::deleteAll()
 void CodesSetup::onPluginStarted(const PluginFailure &failure)
 {
     m_isOffered = false;
+    m_saved += m_new;
+    m_new.clear();
     if (!m_controller->plugin()->isUsable())
         m_page->showText(failure.text());
     readCodes();
+}
+
+void CodesSetup::catchUp()
+{
+    if (!m_controller->started())
+        return;
+    onPluginStarted(*m_controller->started());
+    if (m_controller->plugin()->isUsable())
+        offerWindow();
 }
 
 void CodesSetup::offerWindow()
@@ -183,7 +210,7 @@ void CodesSetup::offerWindow()
     m_isOffered = isOffered;
     retranslate();
     readCodes();
-    reportNewCodes();
+    reportSaved();
 }
 
 void CodesSetup::retranslate()

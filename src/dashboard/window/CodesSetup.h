@@ -31,6 +31,10 @@ public:
 
     CodesPage *page() const { return m_page; }
 
+    /// Displays the plug-in's window, or why the plug-in cannot be loaded, if the plug-in was
+    /// started before this object was constructed.
+    void catchUp();
+
     /// Opens the list of codes with the first of the new codes selected.
     void showNewCodes();
 
@@ -50,7 +54,8 @@ private:
     void onPluginStarted(const PluginFailure &failure);
     void offerWindow();
     void onFrameClosed();
-    void reportNewCodes();
+    void makePresets();
+    void reportSaved();
     void readCodes();
     void followChains();
     void followDevice();
@@ -63,8 +68,9 @@ private:
     CodesPage *m_page;
     bool m_isOffered = false;
     QStringList m_known; // the user's codes when they were last read
-    QStringList m_new;   // codes that the user has just saved
-    QString m_reported;  // the first new code without a button, as shown in the history
+    QStringList m_new;   // saved codes for which the plug-in may have to be restarted
+    QStringList m_saved; // saved codes for which the plug-in makes no further buttons
+    QString m_reported;  // the first code without a button, as shown in the history
 };
 
 } // namespace Dashboard

@@ -67,6 +67,8 @@ HomeSetup::HomeSetup(AppController *controller, AppActions *actions, QWidget *pa
 {
     connect(&controller->monitor(), &CommandMonitor::replied, &m_recorder,
             &AccountRecorder::record);
+    connect(&controller->monitor(), &CommandMonitor::leftOpen, &m_recorder,
+            &AccountRecorder::recordUnanswered);
     connect(&controller->device(), SIGNAL(changed()), this, SLOT(followSim()));
     connect(controller, &AppController::pluginStarted, this, &HomeSetup::readCodes);
     connect(controller, &AppController::windowsOffered, this, &HomeSetup::readCodes);

@@ -125,8 +125,10 @@ void MainWindow::followController()
 {
     connect(&device(), &DeviceWatcher::changed, this, &MainWindow::showDevice);
     connect(&m_controller, &AppController::deviceChosen, this, &MainWindow::showDevice);
-    connect(&m_controller, &AppController::windowsOffered, this,
-            [this] { m_menu->offer(m_controller.windows()); });
+    connect(&m_controller, &AppController::windowsOffered, this, [this] {
+        m_menu->offer(m_controller.windows());
+        makeCodesForDevice(); // before the next code is sent
+    });
     connect(&m_controller.monitor(), &CommandMonitor::changed, this, &MainWindow::showServices);
     connect(&m_controller, &AppController::paidTypeChanged, this, &MainWindow::showDevice);
     connect(&m_controller, &AppController::frameClosed, this, &MainWindow::frameClosed);
@@ -229,7 +231,7 @@ DeviceMenu *MainWindow::deviceMenu() const
 
 PluginFailure MainWindow::loadPlugin()
 {
-    pageOf(PageId::Codes); // displays the plug-in's window, or why the plug-in cannot be loaded
+    makeCodesForDevice();
     return m_controller.loadPlugin();
 }
 
@@ -281,6 +283,8 @@ void MainWindow::showDevice()
     showHeader(now);
     showDeviceLine(now);
     showBanners();
+    if (m_controller.started())
+        makeCodesForDevice();
     showOnPages(now);
     showFirstRun();
 }

@@ -10,6 +10,7 @@
 #include "RegionCycle.h"
 
 class QGridLayout;
+class QShortcut;
 class QStackedWidget;
 
 namespace Dashboard
@@ -112,6 +113,7 @@ private:
     void makePages();
     Page *makePage(PageId page);
     Page *makeCodes();
+    void makeCodesForDevice();
     Page *makeServices();
     Page *makeMessages();
     Page *makeSettings();
@@ -125,6 +127,7 @@ private:
     void makeCentre();
     void makeMenu();
     void makeShortcuts();
+    void makeCodesKeys();
     void find();
     void makeRegions();
     void addShortcut(const QKeySequence &key, const std::function<void()> &action);
@@ -183,6 +186,7 @@ private:
     QStackedWidget *m_stack;
     HomeSetup *m_home = nullptr;
     CodesSetup *m_codes = nullptr;
+    QList<QShortcut *> m_codesKeys;                // deleted when the page Codes is constructed
     Page *m_pages[int(PageId::Settings) + 1] = {}; // null until the page is first needed
     ServicesPage *m_servicesPage = nullptr;
     SettingsPage *m_settingsPage = nullptr;

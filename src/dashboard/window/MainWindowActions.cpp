@@ -44,6 +44,16 @@ const char STRIP[] = "Dashboard_StateStrip";
 
 const PageId NUMBERED_PAGES[] = {PageId::Home, PageId::Codes, PageId::Services, PageId::Messages};
 
+struct CodesKey {
+    int key; // pressed together with Ctrl
+    const char *action;
+};
+
+const CodesKey CODES_KEYS[] = {
+    {Qt::Key_L, "Dashboard_FocusCode"},
+    {Qt::Key_H, "Dashboard_OpenHistory"},
+};
+
 QWidget *inOpenFrame(const char *name)
 {
     for (const QWidget *window : QApplication::topLevelWidgets()) {
@@ -89,8 +99,22 @@ void MainWindow::addShortcut(const QKeySequence &key, const std::function<void()
     connect(new QShortcut(key, this), &QShortcut::activated, this, action);
 }
 
+/// Makes the keys that open the page Codes work before the page exists. Then, the page has its own
+/// actions for these keys.
+void MainWindow::makeCodesKeys()
+{
+    for (const CodesKey &each : CODES_KEYS) {
+        QShortcut *key = new QShortcut(QKeySequence(int(Qt::CTRL) + each.key), this);
+        m_codesKeys << key;
+        connect(key, &QShortcut::activated, this, [this, &each] {
+            codesPage()->findChild<QAction *>(QLatin1String(each.action))->trigger();
+        });
+    }
+}
+
 void MainWindow::makeShortcuts()
 {
+    makeCodesKeys();
     int key = Qt::Key_1;
     for (const PageId page : NUMBERED_PAGES) {
         addShortcut(QKeySequence(int(Qt::CTRL) + key++), [this, page] {
@@ -205,6 +229,7 @@ void MainWindow::raiseAgain()
 
 void MainWindow::openFrame(int paidType)
 {
+    pageOf(PageId::Codes); // notices which codes the user saves in the frame
     m_controller.openFrame(paidType);
 }
 

@@ -170,8 +170,8 @@ void MainWindow::showFirstRun()
     const bool isDue = isFirstRunDue(m_settings, device(), operatorCodes());
     if (isDue && !m_firstRun)
         makeFirstRun();
-    m_navigation->setVisible(!isDue);
-    m_header->setVisible(!isDue);
+    setShown(m_navigation, !isDue);
+    setShown(m_header, !isDue);
     m_banners->setSuppressed(isDue);
     m_stack->setCurrentWidget(isDue ? m_firstRun : pageOf(currentPage()));
 }

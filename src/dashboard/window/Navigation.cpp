@@ -60,7 +60,7 @@ NavigationButton::NavigationButton(const char *icon, const char *objectName, QWi
 
 Navigation::Navigation(QWidget *parent)
     : QFrame(parent), m_logo(makeLabel("logo", this)), m_title(makeLabel("h3", this)),
-      m_line(makeLine(this)), m_device(new DeviceLine(this)), m_buttons(new QButtonGroup(this))
+      m_line(makeLine(this)), m_buttons(new QButtonGroup(this))
 {
     setObjectName(QLatin1String("Dashboard_Navigation"));
     for (const Entry &each : ENTRIES) {
@@ -68,6 +68,7 @@ Navigation::Navigation(QWidget *parent)
         m_buttons->addButton(button, int(each.page));
         connect(button, &QPushButton::clicked, this, [this, &each] { emit chosen(each.page); });
     }
+    m_device = new DeviceLine(this); // after the buttons, so that Tab reaches them first
     makeBrand();
     retranslate();
     setCurrent(PageId::Home);
@@ -111,11 +112,10 @@ void Navigation::layOut()
     for (const Entry &each : ENTRIES)
         entry(each.page)->setArrangement(arrangementOf(m_form));
     m_logo->setFixedSize(px(LOGO), px(LOGO));
-    m_logo->setVisible(!isNarrow);
-    m_title->setVisible(isWide);
-    m_line->setVisible(isWide);
-    m_device->setVisible(isWide);
-    entry(PageId::Settings)->setVisible(!isNarrow);
+    setShown(m_logo, !isNarrow);
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_title, m_line, m_device})
+        setShown(widget, isWide);
+    setShown(entry(PageId::Settings), !isNarrow);
     if (isNarrow)
         layOutBar();
     else
