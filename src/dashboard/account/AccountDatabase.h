@@ -7,7 +7,9 @@
 namespace Dashboard
 {
 
-/** The entries of all SIMs. Each entry and its day are stored in a single transaction. */
+/**
+ * The entries of all SIMs. Each entry is stored in the same transaction as the balance of its day.
+ */
 class AccountDatabase : public UserDatabase
 {
 public:
@@ -24,12 +26,12 @@ public:
     /// Returns the balances of all days since `first`, in ascending order.
     QList<BalanceDay> days(const QString &sim, const QDate &first);
     /// Calls the function for each entry of the SIM, or of all SIMs if `sim` is empty, starting
-    /// with the oldest entry. The function returns false to stop. Returns false if it has been
-    /// stopped or if the entries cannot be read.
+    /// with the oldest entry. If the function returns false, no more entries are read. forEach()
+    /// returns false in this case, and also if the entries cannot be read.
     bool forEach(const QString &sim,
                  const std::function<bool(const QString &sim, const AccountEntry &)> &use);
-    /// Records that the network answered another code after the balance query, at the time `since`.
-    /// The stored balance may then be outdated. clearOutdated() removes this record.
+    /// Records that the network answered another code at the time `since`, so the stored balance
+    /// may be outdated. clearOutdated() removes this record.
     bool setOutdated(const QString &sim, const QDateTime &since);
     bool clearOutdated(const QString &sim);
     bool isOutdated(const QString &sim);

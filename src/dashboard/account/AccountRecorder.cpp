@@ -15,7 +15,7 @@ void AccountRecorder::record(const QString &code, const Reply &reply)
 {
     if (code.isEmpty() || reply.text.trimmed().isEmpty())
         return;
-    // Menus do not contain account data.
+    // A reply that requires an answer is a menu and does not contain account data.
     if (!m_codes.asksForAccount(code) || reply.asksForAnswer)
         return noteOther(code);
     AccountEntry entry;

@@ -14,8 +14,8 @@ class AccountStore;
 struct Reply;
 
 /**
- * Extracts and stores the account data of each reply to an account code, regardless of the window
- * that sent the code. All functions must be called from the GUI thread.
+ * Extracts and stores the account data of each reply to a code that queries account data,
+ * regardless of the window that sent the code. All functions must be called from the GUI thread.
  */
 class AccountRecorder : public QObject
 {
@@ -26,7 +26,8 @@ public:
 
     void setCodes(const AccountCodes &codes) { m_codes = codes; }
     const AccountCodes &codes() const { return m_codes; }
-    /// Sets the operator's patterns, which take precedence over the general rules.
+    /// Sets the operator's patterns for values in replies, which take precedence over the general
+    /// rules.
     void setPatterns(const ReplyPatterns &patterns) { m_patterns = patterns; }
     /// Sets the amount below which lowBalance() is emitted. An empty string disables the signal.
     void setLowBalance(const QString &amount) { m_lowBalance = amount; }

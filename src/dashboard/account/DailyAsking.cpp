@@ -81,8 +81,8 @@ void DailyAsking::note()
         m_settings->setLastAsked(key, m_clock());
 }
 
-/// Returns the key of the SIM, because the IMSI itself must not be stored. Demonstrations use a
-/// separate key.
+/// Returns the key that is stored instead of the IMSI of the SIM. Demonstrations use a separate
+/// key.
 QString DailyAsking::sim() const
 {
     const DeviceStatus &status = m_device->status();

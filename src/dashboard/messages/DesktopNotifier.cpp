@@ -98,7 +98,7 @@ void DesktopNotifier::send(const DesktopNote &note)
 }
 
 /// Stores the number that the service has assigned to the notification. If a newer notification was
-/// sent before the service answered, it could not replace this one, so this one is removed.
+/// sent before the service answered, the service shows both, so the older one is closed.
 void DesktopNotifier::onSent(DesktopNote::Kind kind, int call, QDBusPendingCallWatcher *watcher)
 {
     watcher->deleteLater();

@@ -42,7 +42,8 @@ public slots:
     /// Applies the current SIM and the current settings. Must be called when the settings have
     /// changed.
     void look();
-    /// Determines the key of the SIM again.
+    /// Determines the key of the SIM again. Must be called when the keys of all SIMs have changed;
+    /// see forgetSimKeys().
     void renewSimKey();
     /// Must be called when the window has come to the front.
     void onInFront();

@@ -102,8 +102,8 @@ int MessageModel::rowFor(const Message &message) const
     return row;
 }
 
-/// Inserts the message, unless its row has not been read yet. The next row may then no longer be
-/// the first one of its day.
+/// Inserts the message, unless the rows at its position have not been read yet. Repaints the next
+/// row, which may no longer be the first one of its day.
 void MessageModel::onAdded(const Message &message)
 {
     const int row = rowFor(message);

@@ -181,7 +181,8 @@ void BalanceCard::arrangeButtons()
         showIcons(true);
     m_show->setToolTip(m_show->text().isEmpty() ? text : QString());
     m_buttonRow->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    // In a right-to-left window, the style does not centre the icon of a wider button.
+    // In a column, the buttons are not stretched, because in a right-to-left window, the style does
+    // not centre the icon of a wider button.
     for (QPushButton *button : {m_topUp, m_ask, m_show})
         m_buttonRow->setAlignment(button, isRow ? Qt::Alignment() : Qt::AlignLeading);
 }

@@ -346,8 +346,8 @@ void FirstRunPage::setForm(Form form)
     setMargins(m_list, isNarrow ? 0 : 54, 0, 0, 20);
 }
 
-// Arranges the buttons again when the card is resized, which happens after the page is resized, and
-// when the style sheet changes the size of the buttons.
+// Arranges the buttons again when the card is resized, or when the style sheet changes the size of
+// the buttons. The event filter is necessary, because the card is resized after the page.
 bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();

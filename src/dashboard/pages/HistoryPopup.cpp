@@ -272,8 +272,8 @@ bool HistoryPopup::onEditKey(int key)
     return false;
 }
 
-/// Moves between the last row and the button of the footer. Returns true if the key has been
-/// handled.
+/// Moves the current item from the last row to the button of the footer, or back. Returns true if
+/// the key has been handled.
 bool HistoryPopup::moveToButton(int key)
 {
     const int rows = m_model->rowCount();

@@ -329,7 +329,7 @@ void StateStrip::updateEndButtons()
     const bool isNarrow = m_form == Form::Narrow;
     m_copy->setVisible(!isBlockedNow && !isNarrow && !m_state.isPending());
     m_more->setVisible(!isBlockedNow && (isRest || (!isNarrow && !m_state.isPending())));
-    // In the narrow form, the title needs the room.
+    // In the narrow form, the buttons show only their icons, because the title needs the space.
     for (QPushButton *button : {m_history, m_dismiss}) {
         button->setText(isNarrow ? QString() : button->accessibleName());
         button->setToolTip(isNarrow ? button->accessibleName() : QString());
@@ -561,7 +561,8 @@ void StateStrip::addReason()
     m_rowLayout->addWidget(reason);
 }
 
-/// Adds the button that stores the walk as a chain. It precedes the most recently sent codes.
+/// Adds the button that stores the user's menu choices as a chain. The button precedes those for
+/// the most recently sent codes.
 void StateStrip::addKeep()
 {
     if (!m_isKeepOffered)

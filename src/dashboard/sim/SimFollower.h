@@ -34,8 +34,8 @@ public:
     bool isAsking() const { return m_finder.isAsking(); }
     /// Returns the tap that receives each reply. The follower owns the tap.
     ReplyTap *replies() { return &m_replies; }
-    /// Sets the function that determines whether the query may be sent. If no function is set, the
-    /// query is not sent.
+    /// Sets the function that determines whether the prepaid/postpaid query may be sent. If no
+    /// function is set, the query is not sent.
     void setDetectionRule(const std::function<bool()> &mayDetect) { m_mayDetect = mayDetect; }
 
 public slots:

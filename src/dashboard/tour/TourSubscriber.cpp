@@ -170,7 +170,7 @@ bool walkKeeping(TourGuide &guide)
            takeInShapes(guide, "history", [&guide] { return openHistory(guide); });
 }
 
-/// Runs a chain whose last choice has another price now.
+/// Runs a chain whose last choice has a different price now, so that the chain stops.
 bool walkStop(TourGuide &guide)
 {
     home(guide).favourites().keep({"Day pack", MENU, {{"2", "Data packs"}, {"1", "Day: 500 MB"}}});

@@ -57,8 +57,8 @@ QuestionDialog::QuestionDialog(CommandMonitor *monitor, QWidget *mainWindow)
       m_later(makeButton("", this))
 {
     setObjectName(QLatin1String("Dashboard_QuestionDialog"));
-    // The dialog receives input events even though another modal window is open, because it is
-    // opened later.
+    // The dialog receives input events although another modal window is open, because the dialog is
+    // opened after that window.
     setWindowModality(Qt::ApplicationModal);
     m_later->setObjectName(QLatin1String("Dashboard_QuestionLater"));
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
