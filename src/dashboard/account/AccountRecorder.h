@@ -39,9 +39,9 @@ public slots:
     void record(const QString &code, const Dashboard::Reply &reply);
 
 signals:
-    /// Emitted when the balance falls below the amount that the user has set. Emitted again only
-    /// after the balance has risen above this amount. `shown` is the balance as displayed to the
-    /// user.
+    /// Emitted when the balance of the SIM falls below the amount that the user has set. Emitted
+    /// again for the same SIM only after the balance has reached this amount. `shown` is the
+    /// balance as displayed to the user.
     void lowBalance(const QString &shown);
 
 private:

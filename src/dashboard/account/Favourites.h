@@ -45,8 +45,9 @@ public:
     /// Returns true if a stored chain has the same code and steps as `walk`. The names are not
     /// compared.
     bool isKept(const Chains::Chain &walk) const;
-    /// Adds the chain, and makes it a favourite if there are fewer than MOST favourites. Returns
-    /// false if the chain is incomplete, its name is in use, or it cannot be stored.
+    /// Adds the chain. If the user has selected favourites and there are fewer than MOST, also
+    /// makes the chain a favourite. Returns false if the chain is incomplete, its name is in use,
+    /// or it cannot be stored.
     bool keep(const Chains::Chain &chain);
     /// Renames a chain. Returns false if there is no chain named `from`, if `to` is empty or in
     /// use, or if the change cannot be stored.

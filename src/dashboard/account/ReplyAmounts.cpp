@@ -24,7 +24,8 @@ struct Amount {
     Role role = Role::Unknown;
 };
 
-/// Returns true if there are only spaces and the given marks between two positions.
+/// Returns true if there are only the given marks and at most MOST_BLANKS spaces between two
+/// positions.
 bool areAdjacent(const ReplyText &text, int from, int to, const QString &marks)
 {
     if (from > to)
@@ -158,7 +159,8 @@ bool AmountReader::isTouched(const Amount &amount, const ReplyNumber &number) co
                                   before.script() != QChar::Script_Thai;
     const ReplyPart line = m_text.lineAt(amount.start);
     const QString lead = m_plain.mid(line.start, number.start - line.start).trimmed();
-    // A number such as "1 500" at the start of a line may be the key of a menu item and an amount.
+    // Unless it follows a word, a colon or an equals sign, a number such as "1 500" may be the key
+    // of a menu item and an amount.
     const bool isKey = number.text.contains(QLatin1Char(' ')) &&
                        (lead.isEmpty() || !(lead.right(1).at(0).isLetter() ||
                                             QLatin1String(":=").contains(lead.right(1))));
@@ -193,8 +195,8 @@ QChar AmountReader::characterBefore(int position) const
     return position > 0 ? m_plain.at(position - 1) : QChar(QLatin1Char('\n'));
 }
 
-/// Returns the sign of the amount as 1 or -1. Returns 0 if the amount is preceded by a mark that
-/// may be either a minus sign or a dash.
+/// Returns the sign of the amount as 1 or -1. Returns 0 if the sign is ambiguous, for example
+/// because the mark before the amount may be either a minus sign or a dash.
 int AmountReader::signOf(const Amount &amount, const CurrencyMark &mark,
                          const ReplyNumber &number) const
 {
@@ -299,7 +301,7 @@ Role AmountReader::roleByWords(const QString &before, const QString &behind) con
     return Role::Unknown;
 }
 
-/// Returns true if the reply contains no words except those of the amount.
+/// Returns true if the reply does not contain any letters or digits outside the amount.
 bool AmountReader::isBare(const Amount &amount) const
 {
     const QString rest = m_plain.left(amount.start) + m_plain.mid(amount.end);

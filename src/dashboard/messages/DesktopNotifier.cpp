@@ -52,8 +52,8 @@ DesktopNotifier::DesktopNotifier(const QDBusConnection &bus, QObject *parent)
 {
 }
 
-/// Escapes the text, because notification services treat the body as markup, and some of them even
-/// load images that the markup refers to.
+/// Shortens and escapes the text. Escaping is necessary, because notification services treat the
+/// body as markup, and some of them even load images that the markup refers to.
 QString DesktopNotifier::escaped(const QString &text)
 {
     return text.left(LONGEST_BODY).toHtmlEscaped();

@@ -45,7 +45,8 @@ public slots:
     /// Determines the key of the SIM again. Must be called when the keys of all SIMs have changed;
     /// see forgetSimKeys().
     void renewSimKey();
-    /// Must be called when the window has come to the front.
+    /// Removes the notification about messages. Must be called when the window has come to the
+    /// front.
     void onInFront();
 
 private:

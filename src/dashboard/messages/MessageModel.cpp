@@ -116,8 +116,9 @@ void MessageModel::onAdded(const Message &message)
         emit dataChanged(index(row + 1), index(row + 1));
 }
 
-/// Updates a row. In the list of unread messages, a message that has been read stays visible until
-/// the user selects another filter, so that the list does not move.
+/// Updates the row of the message, or removes the row if the message no longer exists. In the list
+/// of unread messages, a message that has been read stays visible until the user selects another
+/// filter, so that the list does not move.
 void MessageModel::onChanged(qint64 id)
 {
     const QModelIndex changed = indexOf(id);

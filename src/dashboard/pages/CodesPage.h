@@ -61,7 +61,7 @@ public:
     bool hasPreset(const QString &name) const;
     /// Returns true if the plug-in can be restarted to make buttons for new codes.
     bool canMakePresets() const;
-    /// Updates the names of the codes.
+    /// Updates the names of the recently sent codes in the strip.
     void refreshNames();
 
     GeneralWindow general() const;

@@ -62,7 +62,7 @@ bool isAboutSim(Situation::Kind kind)
     }
 }
 
-/// Returns a description of the operator's codes, for example "3 codes: balance, top-up".
+/// Returns a description of the operator's codes, for example "Codes: balance, top-up".
 QString codesOf(const Provider &provider)
 {
     const struct {

@@ -19,7 +19,7 @@ class TopUpSheet : public QDialog
 {
     Q_OBJECT
 public:
-    /// `general` is a parent of the general window.
+    /// `general` is the widget that contains the general window.
     TopUpSheet(const QWidget *general, QWidget *parent);
 
     /// Adds a button that clicks the preset button.

@@ -38,8 +38,8 @@ public:
 
     const ChainState &state() const { return m_state; }
     bool isRunning() const { return m_run.has_value(); }
-    /// Starts the chain by sending its code. Returns false if a chain is already running or no code
-    /// can be sent now.
+    /// Starts the chain by sending its code. Returns false if the chain is incomplete, another
+    /// chain is running, or no code can be sent now.
     bool run(const Chains::Chain &chain);
 
 public slots:

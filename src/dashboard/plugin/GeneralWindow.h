@@ -49,8 +49,8 @@ public:
     /// transcript to use their space.
     void hideUnusedPresets() const;
 
-    /// Returns true if the window is waiting for a reply. Returns false if the dashboard has
-    /// disabled the complete window.
+    /// Returns true if the window is waiting for a reply. The result does not change if the
+    /// dashboard disables the complete window.
     bool isWaiting() const;
     /// Enters the text into the command field and clicks Send. Returns false if the window does not
     /// accept the text.

@@ -80,7 +80,8 @@ HomeSetup &home(const TourGuide &guide)
     return *guide.window()->findChild<HomeSetup *>();
 }
 
-/// Returns the button that can be clicked. The strip creates its buttons again with each change.
+/// Returns the visible and enabled button with this name. There may be others, because the strip
+/// creates its buttons again with each change.
 QPushButton *readyButton(const TourGuide &guide, const char *name)
 {
     for (QPushButton *button : guide.window()->findChildren<QPushButton *>(QLatin1String(name))) {

@@ -80,7 +80,8 @@ public slots:
     /// Restarts the plug-in as soon as the user is not busy.
     void beginAnew();
     /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. If this would cancel the
-    /// prepaid/postpaid query, the frame opens after a short delay.
+    /// prepaid/postpaid query, the frame opens when the query has ended, but after 5 seconds at the
+    /// latest.
     void openFrame(int paidType);
 
 signals:

@@ -486,7 +486,7 @@ void MainWindow::onFrame(QWidget *frame, bool isShown)
     }
     EditorHints::addTo(frame);
     // Keeps the frame above this window. Otherwise, a click could raise this window above the modal
-    // frame, and neither of them could be used.
+    // frame, and this window would not react.
     frame->windowHandle()->setTransientParent(windowHandle());
 }
 

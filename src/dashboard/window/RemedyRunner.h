@@ -28,7 +28,7 @@ public:
 
 public slots:
     void perform(Dashboard::Remedy remedy);
-    /// Updates the strings of open dialogs after a language change.
+    /// Updates the strings of the PIN dialog after a language change.
     void retranslate();
 
 signals:
