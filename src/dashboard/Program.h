@@ -26,7 +26,7 @@ void announceDemonstration(const Arguments &arguments);
 int send(int &argc, char **argv, const Arguments &arguments);
 /// Writes the stored account data to a file.
 int exportAccount(int &argc, char **argv, const Arguments &arguments);
-/// Runs the tour, which does not require a display.
+/// Runs the tour, which takes pictures of all windows and does not require a display.
 int takeTour(int &argc, char **argv, const Arguments &arguments);
 
 } // namespace Program

@@ -35,7 +35,7 @@ const char *codeIcon(CodeKind kind);
 struct NamedCode {
     QString name; // in the user's language if the file has a text key
     QString code; // may contain a placeholder for a number
-    QString keys; // the keys of a chain, such as "*123# › 2 › 1"; empty for a code
+    QString keys; // the code and answers of a chain, such as "*123# › 2 › 1"; empty for a code
     CodeKind kind = CodeKind::Other;
     bool isOwn = false; // true if the code is from the user's own profiles
 

@@ -131,7 +131,7 @@ bool AccountDatabase::insertDay(const QString &sim, const AccountEntry &entry)
                 qMax(-change, qint64(0)), qMax(change, qint64(0))});
 }
 
-/// Returns the selected entry, or a null entry if there is none.
+/// Returns the entry that the statement selects, or a null entry if there is none.
 AccountEntry AccountDatabase::select(const char *statement, const QVariantList &values)
 {
     AccountEntry entry;

@@ -19,11 +19,11 @@ public:
     /// Adds the entry and updates the balance of its day. Returns false if the entry cannot be
     /// stored.
     bool add(const QString &sim, const AccountEntry &entry);
-    /// Returns the newest entry with this code.
+    /// Returns the newest entry with this code, or a null entry if there is none.
     AccountEntry newest(const QString &sim, const QString &code);
-    /// Returns the newest entry that contains a balance.
+    /// Returns the newest entry that contains a balance, or a null entry if there is none.
     AccountEntry newestBalance(const QString &sim);
-    /// Returns the balances of all days since `first`, in ascending order.
+    /// Returns the balances of all days since `first`, starting with the oldest day.
     QList<BalanceDay> days(const QString &sim, const QDate &first);
     /// Calls the function for each entry of the SIM, or of all SIMs if `sim` is empty, starting
     /// with the oldest entry. If the function returns false, no more entries are read. forEach()

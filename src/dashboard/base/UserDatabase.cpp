@@ -143,7 +143,8 @@ bool UserDatabase::migrate()
     });
 }
 
-/// Records whether the error means that the file is damaged. Always returns false.
+/// Records whether the error means that the file is damaged. Always returns false, so that a caller
+/// can return the result.
 bool UserDatabase::handleError(const QSqlQuery &query)
 {
     const QString code = query.lastError().nativeErrorCode();

@@ -58,7 +58,8 @@ public slots:
     void markRead(qint64 id);
     void markAllRead();
     void remove(qint64 id);
-    /// Must be called when the network no longer expects an answer.
+    /// Records that no message requires an answer. Must be called when the network no longer
+    /// expects one.
     void endWaiting();
     /// Removes all messages of all SIMs from the file and from memory.
     void removeAll();

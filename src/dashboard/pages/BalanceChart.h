@@ -17,7 +17,7 @@ class ChartView : public QWidget
 public:
     explicit ChartView(QWidget *parent = nullptr);
 
-    /// Sets the balances, in ascending order of the days. `last` is the last day on the time axis,
+    /// Sets the balances, starting with the oldest day. `last` is the last day on the time axis,
     /// and `count` is the number of days on this axis.
     void setDays(const QList<BalanceDay> &days, const QDate &last, int count);
     QSize sizeHint() const override;

@@ -271,7 +271,7 @@ void StateStrip::update()
                   m_state.choices.isEmpty() ? m_state.text
                                             : dashboardText("STRIP_MENU_CHOOSE_NARROW"));
     else if (m_state.kind == Kind::Ready && isNarrow)
-        showWords(m_state.title, QString()); // few languages have room for more than a word
+        showWords(m_state.title, QString()); // in most languages, there is room for only one word
     else
         showWords(m_state.title, m_state.text);
     updateIcon();

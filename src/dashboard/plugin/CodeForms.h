@@ -7,7 +7,8 @@
 namespace Dashboard
 {
 
-/// Replaces the digits of a phone number or a PIN in a code that is displayed or stored.
+/// The character that replaces the digits of a phone number or a PIN in a code that is displayed or
+/// stored.
 extern const QChar HIDDEN_DIGITS; // the ellipsis
 
 /**
