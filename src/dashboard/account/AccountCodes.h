@@ -30,7 +30,7 @@ const char *codeIcon(CodeKind kind);
 
 /**
  * A named code from the operator's or the user's file, or a stored chain. A chain is a code and the
- * answers to the menus that it opens.
+ * answers to the menus that the code opens.
  */
 struct NamedCode {
     QString name; // in the user's language if the file has a text key

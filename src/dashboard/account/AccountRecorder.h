@@ -26,8 +26,8 @@ public:
 
     void setCodes(const AccountCodes &codes) { m_codes = codes; }
     const AccountCodes &codes() const { return m_codes; }
-    /// Sets the operator's patterns for values in replies, which take precedence over the general
-    /// rules.
+    /// Sets the operator's patterns for values in replies, which take precedence over the rules of
+    /// readReply().
     void setPatterns(const ReplyPatterns &patterns) { m_patterns = patterns; }
     /// Sets the amount below which lowBalance() is emitted. An empty string disables the signal.
     void setLowBalance(const QString &amount) { m_lowBalance = amount; }

@@ -17,7 +17,8 @@ class AccountDatabase;
 /**
  * Stores the account data of each SIM for 12 months. If the user has disabled storing, or if the
  * file cannot be written, the data is kept in memory until the program exits. Data of a
- * demonstration is never stored in the file. All functions must be called from the GUI thread.
+ * demonstration (a simulated network) is never stored in the file. All functions must be called
+ * from the GUI thread.
  */
 class AccountStore : public QObject
 {

@@ -54,7 +54,7 @@ void DailyAsking::look()
 }
 
 /// Returns true if the device and the user are idle and the device is registered with the SIM's
-/// home network, because codes may be more expensive in other networks.
+/// home network. Codes may be more expensive in other networks.
 bool DailyAsking::mayAsk() const
 {
     const DeviceStatus &status = m_device->status();

@@ -11,9 +11,9 @@ namespace Dashboard
 
 /**
  * The favourite codes and the chains of each home network. A chain is a code and the answers to the
- * menus that it opens. Favourites and chains are stored in a file that only its owner can read; see
- * `docs/ussd.md`. The names of favourite codes in this file are only used by the `ussd` program.
- * The dashboard shows the names and icons of the current codes instead.
+ * menus that the code opens. Favourites and chains are stored in a file that only its owner can
+ * read; see `docs/ussd.md`. The names of favourite codes in this file are only used by the `ussd`
+ * program. The dashboard shows the names and icons of the current codes instead.
  */
 class Favourites : public QObject
 {

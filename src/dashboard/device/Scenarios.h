@@ -11,7 +11,7 @@ namespace Dashboard
 namespace Scenarios
 {
 
-/// Returns the installed scenario files, sorted by name.
+/// Returns the installed scenario files, which describe simulated networks, sorted by name.
 QStringList shipped();
 /// Returns the name for the scenario file that is displayed in menus.
 QString displayName(const QString &file);

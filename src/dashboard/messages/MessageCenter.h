@@ -17,8 +17,8 @@ class MessageStore;
 
 /**
  * Stores network-initiated messages for the current SIM, and shows desktop notifications while the
- * window is not active. Messages of a demonstration are never stored in the file. All functions
- * must be called from the GUI thread.
+ * window is not active. Messages of a demonstration (a simulated network) are never stored in the
+ * file. All functions must be called from the GUI thread.
  */
 class MessageCenter : public QObject
 {

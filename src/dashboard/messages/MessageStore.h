@@ -33,8 +33,8 @@ public:
 
     /// Sets whether messages are stored in the file or only kept in memory.
     void setStoring(bool isStoring);
-    /// Sets the key of the current SIM. Only messages of this SIM are visible. An empty key means
-    /// that the SIM is unknown.
+    /// Sets the key of the current SIM; see SimKey.h. Only messages of this SIM are visible. An
+    /// empty key means that the SIM is unknown.
     void setSim(const QString &key);
     /// Replaces the clock that determines which messages are too old.
     void setClock(const std::function<QDateTime()> &clock) { m_clock = clock; }

@@ -45,8 +45,8 @@ public:
     QPushButton *closeButton() const { return m_closeButton; }
 
     bool hasPresets() const { return m_presetButton; }
-    /// If there are no preset buttons, hides the field for their numbers and enlarges the
-    /// transcript to use their space.
+    /// If there are no preset buttons, which send configured codes, hides the field for their
+    /// numbers and enlarges the transcript to use their space.
     void hideUnusedPresets() const;
 
     /// Returns true if the window is waiting for a reply. The result does not change if the

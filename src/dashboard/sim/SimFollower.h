@@ -28,8 +28,8 @@ public:
     /// The plug-in and the device must outlive the follower.
     SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObject *parent = nullptr);
 
-    /// Returns "Prepaid", "Postpaid" or a message that the query is in progress, in the user's
-    /// language. Returns an empty string if the type of contract is unknown.
+    /// Returns "Prepaid", "Postpaid" or a message that the prepaid/postpaid query is in progress,
+    /// in the user's language. Returns an empty string if the type of contract is unknown.
     QString paidTypeText() const;
     bool isAsking() const { return m_finder.isAsking(); }
     /// Returns the tap that receives each reply. The follower owns the tap.
@@ -41,10 +41,11 @@ public:
 public slots:
     /// Starts observing the SIM. Must be called each time the plug-in has been loaded or restarted.
     void start();
-    /// Must be called when a network-initiated message requires an answer. The query is not sent
-    /// until this session has ended.
+    /// Must be called when a network-initiated message requires an answer. The prepaid/postpaid
+    /// query is not sent until this session has ended.
     void questionCame();
-    /// Sends the query if it is due and permitted. Must be called when the query becomes permitted.
+    /// Sends the prepaid/postpaid query if it is due and permitted. Must be called when the query
+    /// becomes permitted.
     void ask();
 
 signals:

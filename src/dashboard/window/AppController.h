@@ -92,7 +92,8 @@ signals:
     void windowsOffered();
     void paidTypeChanged();
     void frameOpened();
-    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in this frame.
+    /// Emitted when a window of the plug-in that has its own frame was closed. The user may have
+    /// saved codes in this window.
     void frameClosed();
     void commandEnded();
     /// Emitted when a network-initiated message has arrived.

@@ -35,7 +35,7 @@ public:
 
     void setBanner(Kind kind, const Banner &banner);
     const Banner &banner(Kind kind) const { return m_banners[kind]; }
-    /// Returns the kind of the visible banner, or -1 if there is none.
+    /// Returns the kind of the first banner that has a title, or -1 if there is none.
     int shown() const;
     void setForm(Form form);
     /// Hides every banner while `isSuppressed` is true.

@@ -79,8 +79,8 @@ bool isAbsent(Situation::Kind kind)
            kind == Situation::Kind::ModemRemoved;
 }
 
-// Installs the accessible roles first, because the role of a widget does not change after a screen
-// reader has queried it, which may happen while the widget is being constructed.
+// Installs the accessible roles first. A screen reader may query the role of a widget while the
+// widget is being constructed, and the role does not change afterwards.
 QWidget *makeRoot(QWidget *window)
 {
     installAccessibleRoles();

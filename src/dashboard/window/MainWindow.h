@@ -99,7 +99,8 @@ public slots:
     void showMenu();
 
 signals:
-    /// Emitted when a frame of the plug-in was closed, in which the user may have saved codes.
+    /// Emitted when a window of the plug-in that has its own frame was closed. The user may have
+    /// saved codes in this window.
     void frameClosed();
 
 protected:
