@@ -34,7 +34,7 @@ public:
     explicit AccountStore(const QString &file, QObject *parent = nullptr);
     ~AccountStore() override;
 
-    /// Returns the file of the user who runs the program.
+    /// Returns the path of the database file of the user who runs the program.
     static QString userFile();
 
     /// Selects the SIM by its key (see SimKey.h). All other functions use the entries of this SIM.

@@ -23,7 +23,7 @@ public:
 
     /// If `file` is empty, the favourites are only kept in memory.
     explicit Favourites(const QString &file, QObject *parent = nullptr);
-    /// Returns the file of the user who runs the program.
+    /// Returns the path of the favourites file of the user who runs the program.
     static QString userFile();
 
     /// Sets the home network whose favourites are used. `network` consists of its MCC and MNC.

@@ -14,7 +14,7 @@ public:
     /// If `file` is empty, the database is kept in memory.
     explicit MessageDatabase(const QString &file);
 
-    /// Returns the file of the user who runs the program.
+    /// Returns the path of the database file of the user who runs the program.
     static QString userFile();
 
     /// Adds the message and returns its identifier. Returns 0 if it cannot be stored.

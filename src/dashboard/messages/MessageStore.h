@@ -66,7 +66,8 @@ public slots:
 
 signals:
     void added(const Message &message);
-    /// Emitted when the message was marked as read, was removed, or no longer requires an answer.
+    /// Emitted when the message with the identifier `id` was marked as read, was removed, or no
+    /// longer requires an answer.
     void changed(qint64 id);
     /// Emitted when all messages were marked as read.
     void allRead();

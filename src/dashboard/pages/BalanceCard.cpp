@@ -203,7 +203,8 @@ void BalanceCard::setNarrow(bool isNarrow)
         setMargins(m_layout, 24, 18, 24, 20);
     m_chipRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     setMinimumHeight(isNarrow ? 0 : px(WIDE_HEIGHT));
-    // In the narrow form, there is no space for a third button in the row.
+    // In the narrow form, the button is next to the validity, because there is no space for it in
+    // the row of buttons.
     if (isNarrow)
         m_validityRow->addWidget(m_show);
     else
@@ -289,7 +290,8 @@ void BalanceCard::describe()
     if (m_outdated->isVisibleTo(m_chips))
         parts << m_outdated->text();
     setAccessibleName(parts.join(QLatin1String(", ")));
-    // The name stays the same while the seconds pass, so that screen readers do not read it again.
+    // Only the description contains the elapsed seconds. The name does not change every second, so
+    // that screen readers do not read it again.
     setAccessibleDescription(m_view.askingSeconds >= 0 ? m_ask->text() : QString());
 }
 

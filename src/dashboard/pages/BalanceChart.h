@@ -10,7 +10,7 @@ class QLabel;
 namespace Dashboard
 {
 
-/** The curve of a chart. The last value of each day applies until the next reply. */
+/** The curve of a chart. On days without a reply, the curve shows the last known balance. */
 class ChartView : public QWidget
 {
     Q_OBJECT

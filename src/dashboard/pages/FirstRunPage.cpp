@@ -242,7 +242,7 @@ void FirstRunPage::showSteps()
     showChoice();
 }
 
-/// Returns the text of the third step.
+/// Returns the text of the third step, which depends on the operators that match the SIM.
 QString FirstRunPage::choiceText() const
 {
     if (!hasSim() || m_listedNetwork.isEmpty())

@@ -19,8 +19,8 @@ namespace Dashboard
 namespace
 {
 
-// The plug-in itself ends every wait with a time-out. If a wait exceeds this time-out by
-// PLUGIN_GRACE, the plug-in does not work correctly.
+// The plug-in ends every wait with its own time-out. CommandSender waits longer than this time-out
+// by PLUGIN_GRACE, in case the plug-in does not work correctly.
 const int PLUGIN_GRACE = 5000; // ms
 // The maximum time between the arrival of a reply at the plug-in and at the ReplyTap.
 const int TAP_GRACE = 1000; // ms

@@ -26,7 +26,7 @@ typedef CommandState::Kind Kind;
 /// Opens a widget over the window and returns it.
 typedef std::function<QWidget *()> Opener;
 
-/** A form and a theme of the main window. */
+/** A size of the main window, which determines its form, and a theme. */
 struct Shape {
     QSize size; // pixels
     ThemeChoice theme;

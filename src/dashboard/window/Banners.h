@@ -27,8 +27,9 @@ class Banners : public QFrame
 {
     Q_OBJECT
 public:
-    /// The kinds of banners. If there are several banners, the first one is shown. The banner of
-    /// the demonstration is the last one, because it cannot be closed and would hide the others.
+    /// The kinds of banners. If there are several banners, the first one in this order is shown.
+    /// The banner of the demonstration is the last one, because it cannot be closed and would hide
+    /// the others.
     enum Kind { Saved, Operator, Problem, Restore, Demonstration };
 
     explicit Banners(QWidget *parent = nullptr);
