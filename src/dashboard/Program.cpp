@@ -174,8 +174,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     const SingleInstance instance(SingleInstance::sessionName(settings.file()));
     if (instance.role() == SingleInstance::Later)
         return leaveToFirst(arguments);
-    // Now that the QApplication exists, also sets the layout direction and translates Qt's own
-    // texts.
+    // Sets the language again. Now that the QApplication exists, this also sets the layout
+    // direction and translates Qt's own texts.
     HostCore::Languages::setCurrent(HostCore::Languages::current());
     identifyWindows();
     startLook(settings);

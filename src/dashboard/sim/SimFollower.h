@@ -39,7 +39,8 @@ public:
     void setDetectionRule(const std::function<bool()> &mayDetect) { m_mayDetect = mayDetect; }
 
 public slots:
-    /// Starts observing the SIM. Must be called each time the plug-in has been loaded or restarted.
+    /// Reads the SIM and offers its windows. Must be called each time the plug-in has been loaded
+    /// or restarted.
     void start();
     /// Must be called when a network-initiated message requires an answer. The prepaid/postpaid
     /// query is not sent until this session has ended.

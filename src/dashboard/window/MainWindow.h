@@ -89,7 +89,8 @@ public slots:
     /// Restarts the plug-in, so that it reloads its configuration.
     PluginFailure restartPlugin();
     void setLanguage(const QString &code);
-    /// Closes the window and quits the program, even if a frame or a message box is open.
+    /// Closes the window and quits the program, even if a window of the plug-in or a message box is
+    /// open.
     void quit();
     /// Raises and activates the window.
     void raiseAgain();
