@@ -8,7 +8,7 @@ namespace
 
 const char SEPARATOR[] = "--";
 
-/** An option without a value. */
+/** An option that takes no value, and the member that it sets to true. */
 struct Switch {
     const char *name;
     bool Arguments::*value;

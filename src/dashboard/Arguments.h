@@ -32,9 +32,9 @@ struct Arguments {
 
 /// Parses the command-line arguments without the program name.
 ///
-/// The code and the answers of --send extend to the next argument that starts with "--". If this
-/// argument is "--", all arguments after it are also answers. An option and its value may be joined
-/// with "=".
+/// After --send, the arguments up to the next one that starts with "--" are the code and its
+/// answers. If this argument is "--", all arguments after it are also answers. An option and its
+/// value may be joined with "=".
 Arguments parseArguments(const QStringList &words);
 
 } // namespace Dashboard

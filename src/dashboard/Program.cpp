@@ -74,8 +74,8 @@ bool namesDevice(const Arguments &arguments)
     return arguments.demo || !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
 }
 
-/// Selects the device. If the scenario file from the settings can no longer be used, falls back to
-/// the automatic choice and returns the error in the scenario file.
+/// Selects the device. If its scenario file can no longer be used, falls back to the automatic
+/// choice and returns the error in this file. Otherwise, returns an empty string.
 QString useDevice(DeviceChoice *choice)
 {
     QString error = choice->use();
@@ -117,7 +117,8 @@ void startLook(const DashboardSettings &settings)
     look.start();
 }
 
-/// Returns true if any font is installed. Without fonts, Qt draws a box instead of each letter.
+/// Returns true if any font is installed. Without fonts, Qt draws the same box instead of every
+/// letter.
 bool hasFonts()
 {
     QPainterPath narrow;

@@ -9,7 +9,7 @@ struct Arguments;
 /** The exit codes of the program, except those of --send, which are in Cli::ExitCode. */
 enum ExitCode { EXIT_GOOD = 0, EXIT_BAD = 1, EXIT_USAGE = 2, EXIT_NOT_WRITTEN = 8 };
 
-/** The modes of the program. The functions return exit codes. */
+/** The modes of the program. Functions that return an int return the exit code. */
 namespace Program
 {
 
@@ -26,7 +26,7 @@ void announceDemonstration(const Arguments &arguments);
 int send(int &argc, char **argv, const Arguments &arguments);
 /// Writes the stored account data to a file.
 int exportAccount(int &argc, char **argv, const Arguments &arguments);
-/// Runs the tour, which does not require a display.
+/// Runs the tour, which takes pictures of all windows and does not require a display.
 int takeTour(int &argc, char **argv, const Arguments &arguments);
 
 } // namespace Program

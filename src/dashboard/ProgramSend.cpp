@@ -51,8 +51,8 @@ int failBecauseOf(const DeviceStatus &device)
     return Cli::EXIT_NOT_READY;
 }
 
-/// Waits until the device can send codes. If the arguments request it, also enables the device and
-/// ends the session of another program. Returns an exit code.
+/// Waits until the device can send codes or cannot become ready by itself. If the arguments request
+/// it, also enables the device and ends the session of another program. Returns an exit code.
 int prepareDevice(const Arguments &arguments, const DeviceChoice &choice, const DeviceWait &wait)
 {
     wait.untilReady(choice);

@@ -15,8 +15,8 @@ struct Arguments;
 /// a real one.
 DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &settings);
 
-/// Returns true if the choice results in a simulated network. The automatic choice depends on
-/// $TKSV_BACKEND.
+/// Returns true if the choice results in a simulated network. If the device is selected
+/// automatically, this depends on $TKSV_BACKEND.
 bool isDemonstration(const DeviceChoice &choice);
 
 } // namespace Dashboard

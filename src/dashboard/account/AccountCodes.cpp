@@ -22,8 +22,8 @@ namespace
 {
 
 /**
- * The text keys that identify the purpose of a profile. The plug-in's profiles and those generated
- * from the operator database use these keys.
+ * A text key that identifies the purpose of a profile, and this purpose. The plug-in's profiles and
+ * those generated from the operator database use these keys.
  */
 struct KnownKey {
     const char *key;

@@ -28,11 +28,14 @@ enum class CodeKind {
 /// Returns the name of the icon for codes of this kind.
 const char *codeIcon(CodeKind kind);
 
-/** A named code from the operator's or the user's file, or a chain that the user has stored. */
+/**
+ * A named code from the operator's or the user's file, or a stored chain. A chain is a code and the
+ * answers to the menus that the code opens.
+ */
 struct NamedCode {
     QString name; // in the user's language if the file has a text key
     QString code; // may contain a placeholder for a number
-    QString keys; // the keys of a chain, such as "*123# › 2 › 1"; empty for a code
+    QString keys; // the code and answers of a chain, such as "*123# › 2 › 1"; empty for a code
     CodeKind kind = CodeKind::Other;
     bool isOwn = false; // true if the code is from the user's own profiles
 

@@ -15,7 +15,8 @@ const QList<QList<const char *>> &migrations()
          "CREATE INDEX entry_by_code ON entry (sim, code, asked)",
          "CREATE INDEX entry_with_balance ON entry (sim, asked) WHERE units IS NOT NULL",
          "CREATE INDEX entry_by_age ON entry (asked)",
-         // Contains one row for each day, so that the chart of 30 days reads at most 30 rows.
+         // Contains one row for each SIM, day and currency, so that the chart does not have to read
+         // all entries.
          "CREATE TABLE day (sim TEXT NOT NULL, day TEXT NOT NULL, currency TEXT NOT NULL, "
          "units INTEGER NOT NULL, decimals INTEGER NOT NULL, lowest INTEGER NOT NULL, "
          "falls INTEGER NOT NULL, rises INTEGER NOT NULL, PRIMARY KEY (sim, day, currency)) "
@@ -109,8 +110,8 @@ bool AccountDatabase::insert(const QString &sim, const AccountEntry &entry)
                valuesOf(sim, entry));
 }
 
-/// Updates the row for the day of the entry. The difference from the previous balance in the same
-/// currency is added to the falls or to the rises.
+/// Adds or updates the row for the day of the entry. The difference from the previous balance in
+/// the same currency is added to the falls or to the rises.
 bool AccountDatabase::insertDay(const QString &sim, const AccountEntry &entry)
 {
     if (!entry.reading.amount)
@@ -130,7 +131,7 @@ bool AccountDatabase::insertDay(const QString &sim, const AccountEntry &entry)
                 qMax(-change, qint64(0)), qMax(change, qint64(0))});
 }
 
-/// Returns the selected entry, or a null entry if there is none.
+/// Returns the entry that the statement selects, or a null entry if there is none.
 AccountEntry AccountDatabase::select(const char *statement, const QVariantList &values)
 {
     AccountEntry entry;

@@ -45,8 +45,8 @@ QString withoutNumbers(const QString &text)
     static const QRegularExpression form(
         QLatin1String("\\b\\d{4}-\\d{1,2}-\\d{1,2}\\b|\\b\\d{1,2}-\\d{1,2}-\\d{4}\\b|"
                       "((?:\\+ ?)?\\d(?:[ \\x{00a0}()/-]{0,2}\\d){6,}|"
-                      // Groups of two or four digits. A point between groups of three belongs to an
-                      // amount.
+                      // Matches groups of two or four digits that are separated by points. Groups
+                      // of three digits are not matched, because they are usually an amount.
                       "\\b(?:\\d{2}(?:\\.\\d{2}){3,}|\\d{4}(?:\\.\\d{4})+)\\b)"),
         QRegularExpression::UseUnicodePropertiesOption);
     QString result;

@@ -24,7 +24,8 @@ struct BalanceDay {
     QDate day;
     Money last; // the last known balance of the day
     qint64 lowest = 0;
-    // The sums of all decreases and of all increases on this day, in units of Money::UNITS.
+    // The sums of all decreases and of all increases on this day, in the same units as
+    // Money::units.
     qint64 falls = 0;
     qint64 rises = 0;
 };

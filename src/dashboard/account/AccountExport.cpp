@@ -63,7 +63,7 @@ QByteArray csvRow(const QList<Field> &fields, bool areNames)
     return cells.join(QLatin1Char(',')).toUtf8() + "\r\n"; // RFC 4180
 }
 
-/** Collects the rows of the export. */
+/** Collects the entries and formats them as CSV or JSON. */
 class Collector
 {
 public:

@@ -14,8 +14,8 @@ class AccountStore;
 struct Reply;
 
 /**
- * Extracts and stores the account data of each reply to an account code, regardless of the window
- * that sent the code. All functions must be called from the GUI thread.
+ * Extracts and stores the account data of each reply to a code that queries account data,
+ * regardless of the window that sent the code. All functions must be called from the GUI thread.
  */
 class AccountRecorder : public QObject
 {
@@ -26,7 +26,8 @@ public:
 
     void setCodes(const AccountCodes &codes) { m_codes = codes; }
     const AccountCodes &codes() const { return m_codes; }
-    /// Sets the operator's patterns, which take precedence over the general rules.
+    /// Sets the operator's patterns for values in replies, which take precedence over the rules of
+    /// readReply().
     void setPatterns(const ReplyPatterns &patterns) { m_patterns = patterns; }
     /// Sets the amount below which lowBalance() is emitted. An empty string disables the signal.
     void setLowBalance(const QString &amount) { m_lowBalance = amount; }
@@ -41,9 +42,9 @@ public slots:
     void recordUnanswered(const QString &code);
 
 signals:
-    /// Emitted when the balance falls below the amount that the user has set. Emitted again only
-    /// after the balance has risen above this amount. `shown` is the balance as displayed to the
-    /// user.
+    /// Emitted when the balance of the SIM falls below the amount that the user has set. Emitted
+    /// again for the same SIM only after the balance has reached this amount. `shown` is the
+    /// balance as displayed to the user.
     void lowBalance(const QString &shown);
 
 private:

@@ -17,7 +17,8 @@ class AccountDatabase;
 /**
  * Stores the account data of each SIM for 12 months. If the user has disabled storing, or if the
  * file cannot be written, the data is kept in memory until the program exits. Data of a
- * demonstration is never stored in the file. All functions must be called from the GUI thread.
+ * demonstration (a simulated network) is never stored in the file. All functions must be called
+ * from the GUI thread.
  */
 class AccountStore : public QObject
 {
@@ -33,7 +34,7 @@ public:
     explicit AccountStore(const QString &file, QObject *parent = nullptr);
     ~AccountStore() override;
 
-    /// Returns the file of the user who runs the program.
+    /// Returns the path of the database file of the user who runs the program.
     static QString userFile();
 
     /// Selects the SIM by its key (see SimKey.h). All other functions use the entries of this SIM.
@@ -67,7 +68,8 @@ public slots:
     void removeAll();
 
 signals:
-    /// Emitted when an entry was added, when the SIM has changed, and after removeAll().
+    /// Emitted when an entry was added, when the SIM or the result of isOutdated() has changed, and
+    /// after removeAll().
     void changed();
     /// Emitted with a message for the user if entries cannot be stored.
     void problem(const QString &text);

@@ -13,7 +13,10 @@ namespace Dashboard
 namespace
 {
 
-/** A currency with its ISO 4217 code and its other symbols and names, separated by "|". */
+/**
+ * A currency with its ISO 4217 code and its marks, which are its other symbols and names, separated
+ * by "|".
+ */
 struct Currency {
     const char *name;
     Grouping grouping;
@@ -218,7 +221,7 @@ void addMarks(const Currency &currency, QList<Mark> *marks)
     mark.grouping = currency.grouping;
     for (const QString &each : QString::fromUtf8(currency.marks).split(QLatin1Char('|'))) {
         mark.text = plainForm(each).toLower();
-        // The trailing "$" of these marks only identifies them as short codes and is removed. In
+        // In these marks, the trailing "$" is not part of the currency's symbol and is removed. In
         // other marks, such as "us$", the "$" is part of the symbol.
         if (each == QLatin1String("da$") || each == QLatin1String("dt$") ||
             each == QLatin1String("km$") || each == QLatin1String("mt$") ||
@@ -281,8 +284,8 @@ bool isCapital(const QString &text)
     return text == text.toUpper();
 }
 
-/// Returns true if the reply is not written in capital letters only. Otherwise, a code such as
-/// "ALL" cannot be distinguished from the word "all".
+/// Returns true if a currency code can be recognized in the reply. If the reply contains only
+/// capital letters, a code such as "ALL" cannot be distinguished from the word "all".
 bool mayBeCode(const QString &plain)
 {
     return plain != plain.toUpper();

@@ -54,7 +54,7 @@ void DailyAsking::look()
 }
 
 /// Returns true if the device and the user are idle and the device is registered with the SIM's
-/// home network, because codes may be more expensive in other networks.
+/// home network. Codes may be more expensive in other networks.
 bool DailyAsking::mayAsk() const
 {
     const DeviceStatus &status = m_device->status();
@@ -81,8 +81,8 @@ void DailyAsking::note()
         m_settings->setLastAsked(key, m_clock());
 }
 
-/// Returns the key of the SIM, because the IMSI itself must not be stored. Demonstrations use a
-/// separate key.
+/// Returns the key that is stored instead of the IMSI of the SIM. Demonstrations use a separate
+/// key.
 QString DailyAsking::sim() const
 {
     const DeviceStatus &status = m_device->status();

@@ -35,7 +35,7 @@ public:
     /// Sets the function that returns false if sending the balance code would disturb the user, or
     /// if this code does not belong to the operator of the SIM.
     void setRule(const std::function<bool()> &mayAsk) { m_mayAsk = mayAsk; }
-    /// Sets the function that returns the key of the SIM with this IMSI.
+    /// Sets the function that converts an IMSI to the key of the SIM.
     void setSimKey(const std::function<QString(const QString &)> &key) { m_simKey = key; }
     /// Replaces the clock.
     void setClock(const std::function<QDateTime()> &clock) { m_clock = clock; }
@@ -43,7 +43,7 @@ public:
     void forget();
 
 public slots:
-    /// Queries the balance if a query is due and permitted. Called regularly.
+    /// Queries the balance if a query is due and permitted. A timer calls this function regularly.
     void look();
 
 private:

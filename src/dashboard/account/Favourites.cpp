@@ -77,7 +77,7 @@ Chains::NetworkFavourites earlierFavourites(const QStringList &codes)
     return favourites;
 }
 
-/// Returns true if a favourite code or another chain has this name.
+/// Returns true if a favourite code, or a chain other than `except`, has this name.
 bool isNameInUse(const Chains::NetworkFavourites &favourites, const std::string &name,
                  const std::string &except = std::string())
 {

@@ -10,9 +10,10 @@ namespace Dashboard
 {
 
 /**
- * The favourite codes and the chains of each home network. They are stored in a file that only its
- * owner can read; see `docs/ussd.md`. The names of favourite codes in this file are only used by
- * the `ussd` program. The dashboard shows the names and icons of the current codes instead.
+ * The favourite codes and the chains of each home network. A chain is a code and the answers to the
+ * menus that the code opens. Favourites and chains are stored in a file that only its owner can
+ * read; see `docs/ussd.md`. The names of favourite codes in this file are only used by the `ussd`
+ * program. The dashboard shows the names and icons of the current codes instead.
  */
 class Favourites : public QObject
 {
@@ -22,12 +23,12 @@ public:
 
     /// If `file` is empty, the favourites are only kept in memory.
     explicit Favourites(const QString &file, QObject *parent = nullptr);
-    /// Returns the file of the user who runs the program.
+    /// Returns the path of the favourites file of the user who runs the program.
     static QString userFile();
 
     /// Sets the home network whose favourites are used. `network` consists of its MCC and MNC.
     void setNetwork(const QString &network);
-    /// Returns the favourites that the user has selected from the given codes and the chains. If
+    /// Returns the stored favourites of the user that are among the given codes or the chains. If
     /// the user has never selected favourites, returns the codes that most subscribers need,
     /// followed by the chains. At most MOST favourites are returned.
     QList<NamedCode> among(const AccountCodes &codes) const;
@@ -41,10 +42,12 @@ public:
     Chains::Chain chain(const QString &name) const;
     /// Returns true if neither a favourite code nor a chain has this name.
     bool isNameFree(const QString &name) const;
-    /// Returns true if there is a chain with the same code and steps, regardless of its name.
+    /// Returns true if a stored chain has the same code and steps as `walk`. The names are not
+    /// compared.
     bool isKept(const Chains::Chain &walk) const;
-    /// Adds the chain, and makes it a favourite if there are fewer than MOST favourites. Returns
-    /// false if the chain is incomplete, its name is in use, or it cannot be stored.
+    /// Adds the chain. If the user has selected favourites and there are fewer than MOST, also
+    /// makes the chain a favourite. Returns false if the chain is incomplete, its name is in use,
+    /// or it cannot be stored.
     bool keep(const Chains::Chain &chain);
     /// Renames a chain. Returns false if there is no chain named `from`, if `to` is empty or in
     /// use, or if the change cannot be stored.

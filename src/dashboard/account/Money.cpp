@@ -42,7 +42,8 @@ QString withLatinDigits(const QString &text)
 QString amountText(const Money &money)
 {
     QLocale locale;
-    // All other numbers in the window use the digits 0 to 9, even if the language is Arabic.
+    // Uses the digits 0 to 9 even if the language is Arabic, as for all other numbers in the
+    // window.
     if (locale.language() == QLocale::Arabic)
         locale = QLocale(QLocale::English);
     return locale.toString(double(money.units) / Money::UNITS, 'f', money.decimals);

@@ -11,11 +11,12 @@ namespace
 
 const int MOST_BLANKS = 2; // the maximum number of spaces between a number and its currency
 
-/// The role of an amount in the reply. A Rival is preceded by a word for the balance, but there are
-/// also unknown words around it.
+/// The meaning of an amount in the reply, according to the words around it. Rival means that the
+/// amount follows a word for the balance, but other words next to it are unknown, so the reply is
+/// ambiguous.
 enum class Role { Balance, Rival, Possible, Unknown, Other };
 
-/** A number with a currency, and its role according to the words around it. */
+/** A number with a currency, and its meaning in the reply. */
 struct Amount {
     int start = 0;
     int end = 0;
@@ -23,7 +24,8 @@ struct Amount {
     Role role = Role::Unknown;
 };
 
-/// Returns true if there are only spaces and the given marks between two positions.
+/// Returns true if there are only the given marks and at most MOST_BLANKS spaces between two
+/// positions.
 bool areAdjacent(const ReplyText &text, int from, int to, const QString &marks)
 {
     if (from > to)
@@ -83,8 +85,8 @@ void AmountReader::find()
         pair(mark, numbers);
 }
 
-/// Assigns the adjacent number to the currency. If there are numbers on both sides, the one without
-/// a space in between is used. If this is not conclusive, both are treated as ambiguous.
+/// Assigns the adjacent number to the currency. If there are numbers on both sides, the one that
+/// touches the currency is used. If both or neither of them touch it, both amounts are ambiguous.
 void AmountReader::pair(const CurrencyMark &mark, const QList<ReplyNumber> &numbers)
 {
     const ReplyNumber *left = nullptr;
@@ -157,7 +159,8 @@ bool AmountReader::isTouched(const Amount &amount, const ReplyNumber &number) co
                                   before.script() != QChar::Script_Thai;
     const ReplyPart line = m_text.lineAt(amount.start);
     const QString lead = m_plain.mid(line.start, number.start - line.start).trimmed();
-    // At the start of a line, the digits before the space may be the key of a menu item.
+    // Unless it follows a word, a colon or an equals sign, a number such as "1 500" may be the key
+    // of a menu item and an amount.
     const bool isKey = number.text.contains(QLatin1Char(' ')) &&
                        (lead.isEmpty() || !(lead.right(1).at(0).isLetter() ||
                                             QLatin1String(":=").contains(lead.right(1))));
@@ -192,8 +195,8 @@ QChar AmountReader::characterBefore(int position) const
     return position > 0 ? m_plain.at(position - 1) : QChar(QLatin1Char('\n'));
 }
 
-/// Returns the sign of the amount as 1 or -1. Returns 0 if the amount is preceded by a mark that
-/// may be either a minus sign or a dash.
+/// Returns the sign of the amount as 1 or -1. Returns 0 if the sign is ambiguous, for example
+/// because the mark before the amount may be either a minus sign or a dash.
 int AmountReader::signOf(const Amount &amount, const CurrencyMark &mark,
                          const ReplyNumber &number) const
 {
@@ -220,7 +223,7 @@ int AmountReader::signOf(const Amount &amount, const CurrencyMark &mark,
 }
 
 /// Returns the sign for an amount that directly follows a hyphen. After a word for the balance, the
-/// hyphen may only separate the word from the amount.
+/// hyphen may be a dash that separates the word from the amount.
 int AmountReader::dashSign(int dash) const
 {
     if (dash == 0)
@@ -298,7 +301,7 @@ Role AmountReader::roleByWords(const QString &before, const QString &behind) con
     return Role::Unknown;
 }
 
-/// Returns true if the reply contains no words except those of the amount.
+/// Returns true if the reply does not contain any letters or digits outside the amount.
 bool AmountReader::isBare(const Amount &amount) const
 {
     const QString rest = m_plain.left(amount.start) + m_plain.mid(amount.end);

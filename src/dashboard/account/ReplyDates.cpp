@@ -13,7 +13,8 @@ const int MONTHS = 12;
 const int FIRST_YEAR = 2000; // years of other calendars are outside this range
 const int LAST_YEAR = 2099;
 
-/// The beginnings of the names of the months in several languages. Each line contains one month.
+/// The beginnings of the names of the months in several languages. Each line contains one month. A
+/// name that ends with "$" must match the complete word.
 const char *const MONTH_NAMES[MONTHS] = {
     "jan|ene|gen|янв|січ|يناير|كانون الثاني|جانفي|styc|led|sij|oca|tammi|ιαν",
     "feb|fev|fév|фев|лют|فبراير|شباط|فيفري|lut|uno|velj|sub|şub|helmi|φεβ",
@@ -65,7 +66,7 @@ QDate checkedDate(int year, int month, int day)
 }
 
 /// Returns the date in a numeric format such as 2027-12-31, 31.12.2027 or 12/31/2027. Returns an
-/// invalid date if the order of day and month is ambiguous.
+/// invalid date if the order of day, month and year is ambiguous.
 QDate dateOfDigits(const QRegularExpressionMatch &match)
 {
     const int first = match.captured(1).toInt();
@@ -152,7 +153,7 @@ bool isBare(const QString &plain, const FoundDate &date)
     return true;
 }
 
-/// Returns true if all words next to the date are about the validity of the account.
+/// Returns true if the words next to the date are about the validity of the account.
 bool hasValidityWords(const ReplyText &text, const FoundDate &date)
 {
     const ReplyPart clause = text.clauseAt(date.start);

@@ -15,8 +15,8 @@ struct ReplyNumber {
     int end = 0;
     QString text; // the digits, the decimal point and the separators
 
-    /// Sets `units` to the value in units of Money::UNITS, and `decimals` to the number of decimal
-    /// places. Returns false if the number is ambiguous.
+    /// Sets `units` to the value in the same units as Money::units, and `decimals` to the number of
+    /// decimal places. Returns false if the number is ambiguous.
     bool read(Grouping grouping, qint64 *units, int *decimals) const;
 };
 

@@ -62,7 +62,7 @@ std::optional<QDate> ReplyPatterns::date(const QString &text) const
     const QString format = m_dateFormat.isEmpty() ? QLatin1String("yyyy-MM-dd") : m_dateFormat;
     const QDate date =
         QDate::fromString(withLatinDigits(value(ReplyPatternFile::VALIDITY, text)), format);
-    // QDate interprets a two-digit year as a year of the 20th century.
+    // QDate interprets a two-digit year as a year of the 20th century, so 100 years are added.
     const QDate read = date.isValid() && date.year() < 2000 ? date.addYears(100) : date;
     return read.isValid() ? std::optional<QDate>(read) : std::nullopt;
 }

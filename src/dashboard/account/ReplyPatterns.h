@@ -11,14 +11,14 @@ namespace Dashboard
 
 /**
  * An operator's patterns for the values in replies; see ReplyPatternFile.h. If there is a pattern
- * for a value, it replaces the general rules for this value.
+ * for a value, it replaces the rules of readReply() for this value.
  */
 class ReplyPatterns
 {
 public:
     ReplyPatterns() = default;
-    /// Reads the patterns from the file. Invalid patterns are ignored, so that the general rules
-    /// apply to their values. A missing file is treated as an empty one.
+    /// Reads the patterns from the file. Invalid patterns are ignored, so that the rules of
+    /// readReply() apply to their values. A missing file is treated as an empty one.
     static ReplyPatterns fromFile(const QString &path);
     /// Returns the patterns of the operator whose configuration is in use.
     static ReplyPatterns inUse();

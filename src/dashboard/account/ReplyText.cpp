@@ -52,8 +52,8 @@ bool ReplyText::endsSentence(int position) const
     return character == QLatin1Char('.') ? isPoint(position) : sentenceMarks().contains(character);
 }
 
-/// Returns true if the point ends a sentence, and false if it belongs to a number or an abbreviated
-/// currency.
+/// Returns true if the point at this position ends a sentence, and false if it belongs to a number
+/// or to an abbreviated currency.
 bool ReplyText::isPoint(int position) const
 {
     const QChar next =

@@ -207,7 +207,7 @@ struct Stem {
 };
 
 /// Returns true if the script does not separate words with spaces. Also returns true for the Arabic
-/// script, which joins articles and prepositions to words.
+/// and Hebrew scripts, which join articles and prepositions to words.
 bool isUnseparated(const QString &text)
 {
     switch (text.isEmpty() ? QChar::Script_Common : text.at(0).script()) {

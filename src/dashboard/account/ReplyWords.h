@@ -31,8 +31,8 @@ enum class Word {
     Offer          // a data volume that can be bought or that is limited to certain services
 };
 
-/// Returns the string in plain form, in which words and numbers can be found: with digits of all
-/// scripts replaced with 0 to 9, and without accents and direction characters. The case of letters
+/// Returns the string in plain form, in which words and numbers can be found. Digits of all scripts
+/// are replaced with 0 to 9, and accents and direction characters are removed. The case of letters
 /// is preserved.
 QString plainForm(const QString &text);
 

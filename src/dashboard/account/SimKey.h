@@ -15,13 +15,14 @@ namespace Dashboard
  * its owner can read.
  */
 QString simKey(const QString &imsi, const QString &folder);
-/// Like the function above, but uses the data folder of the user who runs the program.
+/// Returns the key of the SIM, using the random number in the data folder of the user who runs the
+/// program.
 QString simKey(const QString &imsi);
 /// Removes the random number, so that the keys of all SIMs change. The entries with the former keys
 /// must be removed as well, because they can no longer be found. Returns false if the random number
 /// cannot be removed.
 bool forgetSimKeys(const QString &folder);
-/// Like the function above, but uses the data folder of the user who runs the program.
+/// Removes the random number in the data folder of the user who runs the program.
 bool forgetSimKeys();
 
 } // namespace Dashboard

@@ -18,7 +18,8 @@ namespace LogFile
 /// thread is started.
 QString open(const QString &path);
 
-/// Appends terminalText(line). Does nothing if no file is open. May be called from any thread.
+/// Appends the line, in which terminalText() replaces control characters. Does nothing if no file
+/// is open. May be called from any thread.
 void write(const QString &line);
 
 } // namespace LogFile

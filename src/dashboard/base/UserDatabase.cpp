@@ -20,8 +20,8 @@ const char CORRUPT[] = "11";
 const char NOT_A_DATABASE[] = "26";
 const int UNKNOWN_VERSION = -1;
 
-// Overwrites deleted rows, so that they cannot be restored. Waits up to 2000 ms if another process
-// has locked the file.
+// Makes SQLite overwrite deleted rows, so that they cannot be restored, and wait up to 2000 ms if
+// another process has locked the file.
 const char *const SETTINGS[] = {"PRAGMA secure_delete = ON", "PRAGMA busy_timeout = 2000",
                                 "PRAGMA synchronous = FULL"};
 
@@ -52,8 +52,8 @@ QString nameForDamaged(const QString &file)
     return name;
 }
 
-/// Returns the value to bind. A null string is replaced with an empty one, because it would be
-/// stored as NULL.
+/// Returns the value to bind. A null string is replaced with an empty one, because SQLite would
+/// store a null string as NULL.
 QVariant bound(const QVariant &value)
 {
     const bool isNullString = value.userType() == QMetaType::QString && value.toString().isNull();
@@ -143,7 +143,8 @@ bool UserDatabase::migrate()
     });
 }
 
-/// Records whether the error means that the file is damaged. Always returns false.
+/// Records whether the error means that the file is damaged. Always returns false, so that a caller
+/// can return the result.
 bool UserDatabase::handleError(const QSqlQuery &query)
 {
     const QString code = query.lastError().nativeErrorCode();

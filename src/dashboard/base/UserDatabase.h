@@ -55,8 +55,9 @@ protected:
     bool inTransaction(const std::function<bool()> &step);
     /// Executes the statement. Returns false if it fails. The database must be open.
     bool run(const char *statement, const QVariantList &values = {}, QSqlQuery *query = nullptr);
-    /// Calls the function for each row of the result. If the function returns false, stops and also
-    /// returns false. Returns false if the rows cannot be read. The database must be open.
+    /// Calls the function for each row of the result. If the function returns false, no more rows
+    /// are read, and readRows() returns false. It also returns false if the rows cannot be read.
+    /// The database must be open.
     bool readRows(const char *statement, const QVariantList &values,
                   const std::function<bool(const QSqlQuery &)> &use);
 

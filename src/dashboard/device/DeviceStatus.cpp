@@ -100,8 +100,8 @@ QString DeviceStatus::troubleText() const
     return key ? dashboardText(key) : QString();
 }
 
-// Returns the IMSI or a description of the SIM. A device that is searching for a network has a SIM
-// even if its IMSI is not known yet.
+// Returns the IMSI, or the reason why it is not available. While the device is searching for a
+// network, it has a SIM even if the IMSI is not known yet.
 QString DeviceStatus::simText() const
 {
     if (isLooking)

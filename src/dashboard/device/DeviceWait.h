@@ -14,8 +14,9 @@ struct DeviceWait {
     const SignalWatcher &interruption; // a signal such as SIGINT ends every wait
     int limit;                         // the time limit in milliseconds
 
-    /// Waits until the device is ready or cannot become ready without user intervention. With the
-    /// automatic choice, this includes all other modems. Processes events while it waits.
+    /// Waits until the device is ready or cannot become ready without user intervention. If the
+    /// device is selected automatically, also waits while another modem is searching for a network.
+    /// Processes events while it waits.
     void untilReady(const DeviceChoice &choice) const;
     /// Enables the device and waits until it is enabled. Returns false if it cannot be enabled.
     bool untilEnabled() const;

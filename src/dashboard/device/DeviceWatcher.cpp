@@ -33,7 +33,8 @@ DeviceWatcher::DeviceWatcher(QObject *parent)
 
 DeviceWatcher::~DeviceWatcher()
 {
-    // Both calls wait until a running call-back has returned.
+    // Both calls wait until a running call-back has returned, so that no call-back uses a deleted
+    // watcher.
     TKSV_Device_SetInfoCallback(nullptr, nullptr);
     TKSV_DevSrv_UnRegisterDevInitEventCallback(onDeviceEvent);
     watching = nullptr;

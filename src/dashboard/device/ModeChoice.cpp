@@ -69,8 +69,8 @@ void ModeChoice::change(const TKSV_Modes &modes)
         emit failed();
 }
 
-/// Deletes the former setting when it has been restored. Emits failed() if the modem has not
-/// accepted a setting.
+/// Deletes the stored former setting when the modem uses this setting again. Emits failed() if the
+/// modem has not accepted a setting.
 void ModeChoice::look()
 {
     const TKSV_ModesInfo &modes = m_device->status().modes;

@@ -12,9 +12,9 @@ class DashboardSettings;
 class DeviceWatcher;
 
 /**
- * At the user's request, allows a modem that is restricted to 4G to use 2G and 3G as well, or
- * restores its former setting. The former setting is stored for each modem. All functions must be
- * called from the GUI thread.
+ * At the user's request, allows a modem that is restricted to 4G or later to use 2G and 3G as well,
+ * or restores its former setting. The former setting is stored for each modem. All functions must
+ * be called from the GUI thread.
  */
 class ModeChoice : public QObject
 {
@@ -26,7 +26,8 @@ public:
 
     /// Returns true if the modem is restricted to 4G or later, but also supports 2G or 3G.
     bool canAllowOlder() const;
-    /// Returns true if the modem's setting differs from the one before allowOlder().
+    /// Returns true if the modem's setting differs from the one that it had before allowOlder() was
+    /// called.
     bool canRestore() const;
 
 public slots:

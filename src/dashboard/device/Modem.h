@@ -21,8 +21,8 @@ struct Modem {
 /// immediately. May be called from any thread.
 QList<Modem> readModems();
 
-/// Returns the modem's name. Appends the last digits of the modem's identifier if another modem in
-/// `all` has the same name.
+/// Returns the modem's name, or a text with its identifier if it has no name. Appends the last
+/// digits of the modem's identifier if another modem in `all` has the same name.
 QString modemTitle(const Modem &modem, const QList<Modem> &all);
 
 } // namespace Dashboard

@@ -11,9 +11,9 @@ namespace Dashboard
 namespace Scenarios
 {
 
-/// Returns the installed scenario files, sorted by name.
+/// Returns the installed scenario files, which describe simulated networks, sorted by name.
 QStringList shipped();
-/// Returns the name for the scenario file that is displayed in menus.
+/// Returns the name that menus display for the scenario file.
 QString displayName(const QString &file);
 
 /// Makes the device SDK simulate the network of the file and returns an empty string. If `file` is

@@ -141,7 +141,7 @@ private:
     void updateToolTip();
 };
 
-/** A switch, which can be on or off. */
+/** A toggle switch, painted as a track with a knob. */
 class Switch : public QAbstractButton
 {
     Q_OBJECT
@@ -157,7 +157,7 @@ private:
     QRectF knob() const;
 };
 
-/** A row of segments of which exactly one is selected. */
+/** A row of buttons, called segments, of which at most one is selected. */
 class Segments : public QFrame
 {
     Q_OBJECT

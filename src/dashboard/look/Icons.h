@@ -21,7 +21,7 @@ QIcon icon(const char *name, Token token, Token whenOn);
 /// Returns the icon of the program, in the sizes that window managers show.
 QIcon applicationIcon();
 
-/// Returns the icon as a pixmap, for purposes that do not support icons. The pixmap does not adapt
+/// Returns the icon as a pixmap, for classes that do not support QIcon. The pixmap does not adapt
 /// when the theme changes. `size` is in device-independent pixels. `widget` determines the device
 /// pixel ratio.
 QPixmap iconPixmap(const char *name, Token token, int size, const QWidget *widget);

@@ -76,8 +76,8 @@ Look::Look(QObject *parent) : QObject(parent)
 {
     openResources();
     connect(qApp, &QGuiApplication::layoutDirectionChanged, this, &Look::update);
-    // Uses the string-based syntax, because the signal is deprecated in Qt 6. The event that
-    // replaces it does not arrive here in Qt 5.
+    // Uses the string-based syntax, because the signal is deprecated in Qt 6. In Qt 5, the event
+    // that replaces this signal does not reach this object.
     connect(qApp, SIGNAL(fontChanged(QFont)), SLOT(update()));
 }
 
@@ -119,8 +119,8 @@ int Look::px(int at100Percent) const
 
 int Look::em() const
 {
-    // Caches the value, because it is needed for every size, and resolving a font takes much longer
-    // than comparing two fonts.
+    // Caches the pixel size, because every call of px() needs it, and resolving a font takes much
+    // longer than comparing two fonts.
     const QFont font = QApplication::font();
     if (m_em == 0 || font != m_emFont) {
         m_emFont = font;

@@ -22,8 +22,8 @@ double scaleOfUser()
 
 } // namespace
 
-// Does not use the font resolution (QT_FONT_DPI), because it replaces the resolution of the screen
-// instead of scaling it.
+// Sets QT_SCALE_FACTOR instead of the font resolution (QT_FONT_DPI), because QT_FONT_DPI replaces
+// the resolution of the screen instead of scaling it.
 void applyTextSize(int percent)
 {
     QtCompat::scaleWithScreen();

@@ -52,8 +52,8 @@ DesktopNotifier::DesktopNotifier(const QDBusConnection &bus, QObject *parent)
 {
 }
 
-/// Escapes the text, because notification services treat the body as markup, and some of them even
-/// load images that the markup refers to.
+/// Shortens and escapes the text. Escaping is necessary, because notification services treat the
+/// body as markup, and some of them even load images that the markup refers to.
 QString DesktopNotifier::escaped(const QString &text)
 {
     return text.left(LONGEST_BODY).toHtmlEscaped();
@@ -98,7 +98,7 @@ void DesktopNotifier::send(const DesktopNote &note)
 }
 
 /// Stores the number that the service has assigned to the notification. If a newer notification was
-/// sent before the service answered, it could not replace this one, so this one is removed.
+/// sent before the service answered, the service shows both, so the older one is closed.
 void DesktopNotifier::onSent(DesktopNote::Kind kind, int call, QDBusPendingCallWatcher *watcher)
 {
     watcher->deleteLater();

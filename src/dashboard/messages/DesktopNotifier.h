@@ -37,7 +37,8 @@ public:
     void notify(const DesktopNote &note);
     /// Removes the notification of this kind, for example because the user has read the message.
     void withdraw(DesktopNote::Kind kind);
-    /// Returns the text with all markup characters of notification services escaped.
+    /// Returns the text, shortened if necessary, with all markup characters of notification
+    /// services escaped.
     static QString escaped(const QString &text);
 
 signals:

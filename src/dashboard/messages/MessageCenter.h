@@ -17,8 +17,8 @@ class MessageStore;
 
 /**
  * Stores network-initiated messages for the current SIM, and shows desktop notifications while the
- * window is not active. Messages of a demonstration are never stored in the file. All functions
- * must be called from the GUI thread.
+ * window is not active. Messages of a demonstration (a simulated network) are never stored in the
+ * file. All functions must be called from the GUI thread.
  */
 class MessageCenter : public QObject
 {
@@ -42,9 +42,11 @@ public slots:
     /// Applies the current SIM and the current settings. Must be called when the settings have
     /// changed.
     void look();
-    /// Determines the key of the SIM again.
+    /// Determines the key of the SIM again. Must be called when the keys of all SIMs have changed;
+    /// see forgetSimKeys().
     void renewSimKey();
-    /// Must be called when the window has come to the front.
+    /// Removes the notification about messages. Must be called when the window has come to the
+    /// front.
     void onInFront();
 
 private:

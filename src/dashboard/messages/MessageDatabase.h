@@ -14,14 +14,14 @@ public:
     /// If `file` is empty, the database is kept in memory.
     explicit MessageDatabase(const QString &file);
 
-    /// Returns the file of the user who runs the program.
+    /// Returns the path of the database file of the user who runs the program.
     static QString userFile();
 
     /// Adds the message and returns its identifier. Returns 0 if it cannot be stored.
     qint64 add(const QString &sim, const Message &message);
     /// Returns at most `limit` messages that are older than `after`, starting with the newest one.
-    /// If `after` is a null message, returns the newest messages. `waiting` is the message that
-    /// requires an answer.
+    /// If `after` is a null message, returns the newest messages. `waiting` is the identifier of
+    /// the message that requires an answer.
     QList<Message> older(const QString &sim, const MessageQuery &query, qint64 waiting,
                          const Message &after, int limit);
     Message message(qint64 id);

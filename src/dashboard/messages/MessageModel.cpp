@@ -102,8 +102,8 @@ int MessageModel::rowFor(const Message &message) const
     return row;
 }
 
-/// Inserts the message, unless its row has not been read yet. The next row may then no longer be
-/// the first one of its day.
+/// Inserts the message, unless the rows at its position have not been read yet. Repaints the next
+/// row, which may no longer be the first one of its day.
 void MessageModel::onAdded(const Message &message)
 {
     const int row = rowFor(message);
@@ -116,8 +116,9 @@ void MessageModel::onAdded(const Message &message)
         emit dataChanged(index(row + 1), index(row + 1));
 }
 
-/// Updates a row. In the list of unread messages, a message that has been read stays visible until
-/// the user selects another filter, so that the list does not move.
+/// Updates the row of the message, or removes the row if the message no longer exists. In the list
+/// of unread messages, a message that has been read stays visible until the user selects another
+/// filter, so that the list does not move.
 void MessageModel::onChanged(qint64 id)
 {
     const QModelIndex changed = indexOf(id);

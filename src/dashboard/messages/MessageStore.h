@@ -33,8 +33,8 @@ public:
 
     /// Sets whether messages are stored in the file or only kept in memory.
     void setStoring(bool isStoring);
-    /// Sets the key of the current SIM. Only messages of this SIM are visible. An empty key means
-    /// that the SIM is unknown.
+    /// Sets the key of the current SIM; see SimKey.h. Only messages of this SIM are visible. An
+    /// empty key means that the SIM is unknown.
     void setSim(const QString &key);
     /// Replaces the clock that determines which messages are too old.
     void setClock(const std::function<QDateTime()> &clock) { m_clock = clock; }
@@ -58,14 +58,16 @@ public slots:
     void markRead(qint64 id);
     void markAllRead();
     void remove(qint64 id);
-    /// Must be called when the network no longer expects an answer.
+    /// Records that no message requires an answer. Must be called when the network no longer
+    /// expects one.
     void endWaiting();
     /// Removes all messages of all SIMs from the file and from memory.
     void removeAll();
 
 signals:
     void added(const Message &message);
-    /// Emitted when the message was marked as read, was removed, or no longer requires an answer.
+    /// Emitted when the message with the identifier `id` was marked as read, was removed, or no
+    /// longer requires an answer.
     void changed(qint64 id);
     /// Emitted when all messages were marked as read.
     void allRead();

@@ -52,8 +52,8 @@ void ActionCard::setIconName(const char *name)
     m_icon->setIcon(name, Tone::Accent);
 }
 
-/// Sets the texts of the card. The accessible name and the tool tip contain the complete texts,
-/// because the labels may elide them.
+/// Sets the texts of the card. The accessible name and the accessible description contain the
+/// complete texts, because the labels may elide them.
 void ActionCard::setTexts(const QString &name, const QString &line)
 {
     m_name->setText(name);

@@ -189,7 +189,8 @@ void BalanceCard::arrangeButtons()
         showIcons(true);
     m_show->setToolTip(m_show->text().isEmpty() ? text : QString());
     m_buttonRow->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    // In a right-to-left window, the style does not centre the icon of a wider button.
+    // In a column, the buttons are not stretched, because in a right-to-left window, the style does
+    // not centre the icon of a wider button.
     for (QPushButton *button : {m_topUp, m_ask, m_show})
         m_buttonRow->setAlignment(button, isRow ? Qt::Alignment() : Qt::AlignLeading);
 }
@@ -298,7 +299,8 @@ void BalanceCard::describe()
     if (m_outdated->isVisibleTo(m_chips))
         parts << m_outdated->text();
     setAccessibleName(parts.join(QLatin1String(", ")));
-    // The name stays the same while the seconds pass, so that screen readers do not read it again.
+    // Only the description contains the elapsed seconds. The name does not change every second, so
+    // that screen readers do not read it again.
     setAccessibleDescription(m_view.askingSeconds >= 0 ? m_ask->text() : QString());
 }
 

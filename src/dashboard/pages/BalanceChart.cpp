@@ -255,7 +255,8 @@ void BalanceChart::show(const QList<BalanceDay> &days, const QDate &today)
     for (const BalanceDay &day : days)
         spent.decimals = qMax(spent.decimals, day.last.decimals);
     Money topped = spent;
-    // Ignores the changes on the first day, because they refer to a balance before the chart.
+    // Ignores the changes on the first day, because they include the difference from a balance that
+    // is not in the chart.
     for (int i = 1; i < days.size(); ++i) {
         spent.units += days.at(i).falls;
         topped.units += days.at(i).rises;

@@ -10,14 +10,14 @@ class QLabel;
 namespace Dashboard
 {
 
-/** The curve of a chart. The last value of each day applies until the next reply. */
+/** The curve of a chart. On days without a reply, the curve shows the last known balance. */
 class ChartView : public QWidget
 {
     Q_OBJECT
 public:
     explicit ChartView(QWidget *parent = nullptr);
 
-    /// Sets the balances, in ascending order of the days. `last` is the last day on the time axis,
+    /// Sets the balances, starting with the oldest day. `last` is the last day on the time axis,
     /// and `count` is the number of days on this axis.
     void setDays(const QList<BalanceDay> &days, const QDate &last, int count);
     QSize sizeHint() const override;

@@ -38,7 +38,7 @@ ChainDialog::ChainDialog(const QString &walk, const std::function<bool(const QSt
     sent->setText(walk);
     sent->setTextFormat(Qt::PlainText);
     sent->setWordWrap(true);
-    if (layoutDirection() == Qt::RightToLeft) // the walk itself is shown from left to right
+    if (layoutDirection() == Qt::RightToLeft) // the text itself is shown from left to right
         sent->setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
     connect(m_name, &QLineEdit::textChanged, this, &ChainDialog::look);
     QVBoxLayout *column = new QVBoxLayout(this);

@@ -47,7 +47,7 @@ QString fullName(const QPushButton *button)
     return isElided && isPlain && !button->toolTip().isEmpty() ? button->toolTip() : button->text();
 }
 
-/// Returns the code and the choices of the walk, such as "*123# › 2 Internet › 1 1 GB".
+/// Returns the code and the user's menu choices as text, such as "*123# › 2 Internet › 1 1 GB".
 QString walkText(const Chains::Chain &walk)
 {
     QString text = isolated(QString::fromStdString(walk.code));
@@ -364,8 +364,9 @@ void CodesPage::showStop(const ChainState &chain)
     box->open();
 }
 
-/// Opens the dialog in which the user enters a name. When the user accepts the dialog, keeps the
-/// walk as a chain with this name. The suggested name is the text of the last choice.
+/// Opens the dialog in which the user enters a name. When the user accepts the dialog, stores the
+/// code and the menu choices as a chain with this name. The suggested name is the text of the last
+/// choice.
 void CodesPage::keepWalk()
 {
     const Chains::Chain walk = m_parts.walks->walk();

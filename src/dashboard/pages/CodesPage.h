@@ -61,15 +61,15 @@ public:
     bool hasPreset(const QString &name) const;
     /// Returns true if the plug-in can be restarted to make buttons for new codes.
     bool canMakePresets() const;
-    /// Updates the names of the codes.
+    /// Updates the names of the recently sent codes in the strip.
     void refreshNames();
 
     GeneralWindow general() const;
     GeneralArea *area() const { return m_area; }
     StateStrip *strip() const { return m_strip; }
-    /// Returns the actions of the page, whose shortcuts the main window activates: focusing the
-    /// code field, selecting a menu item, cancelling a command or ending a menu, opening the
-    /// history, and copying the reply.
+    /// Returns the actions of the page. The main window activates their shortcuts. The actions
+    /// focus the code field, select a menu item, cancel a command or end a menu, open the history,
+    /// and copy the reply.
     QList<QAction *> shortcuts() const { return m_shortcuts; }
 
 public slots:

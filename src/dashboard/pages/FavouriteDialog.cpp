@@ -21,7 +21,7 @@ namespace
 
 const int CODE = Qt::UserRole;
 const int NAME = Qt::UserRole + 1;
-const int KEYS = Qt::UserRole + 2; // the keys of a chain; empty for a code
+const int KEYS = Qt::UserRole + 2; // the code and answers of a chain as text; empty for a code
 const int EARLIER_NAME = Qt::UserRole + 3;
 const int LEAST_HEIGHT = 340; // height of the dialog in pixels at 100 % text size
 const int LEAST_WIDTH = 320;
@@ -148,8 +148,8 @@ void FavouriteDialog::move(int rows)
     m_list->setCurrentRow(target);
 }
 
-/// Enables or disables the buttons and check boxes. For example, the first code cannot be moved up,
-/// and no further code can be selected if the maximum number of favourites has been reached.
+/// Enables or disables the buttons and check boxes. For example, the first row cannot be moved up,
+/// and no further row can be selected if the maximum number of favourites has been reached.
 void FavouriteDialog::look()
 {
     const int row = m_list->currentRow();

@@ -47,7 +47,7 @@ class FavouriteGrid : public QWidget
 public:
     explicit FavouriteGrid(QWidget *parent = nullptr);
 
-    /// Shows the codes. If `mayAdd` is true, also shows the card for adding a favourite.
+    /// Shows the favourites. If `mayAdd` is true, also shows the card for adding a favourite.
     void show(const QList<NamedCode> &codes, bool mayAdd);
     void setColumns(int columns);
 

@@ -33,7 +33,8 @@ public:
     void retranslate();
     /// In the narrow form, the buttons are below the field.
     void setForm(Form form);
-    /// Must be called when the plug-in may have replaced the transcript.
+    /// Searches the current transcript of the plug-in. Must be called when the plug-in may have
+    /// replaced the transcript.
     void follow();
 
 public slots:

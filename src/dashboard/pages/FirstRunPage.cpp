@@ -65,7 +65,7 @@ bool isAboutSim(Situation::Kind kind)
     }
 }
 
-/// Returns a description of the operator's codes, for example "3 codes: balance, top-up".
+/// Returns a description of the operator's codes, for example "Codes: balance, top-up".
 QString codesOf(const Provider &provider)
 {
     const struct {
@@ -292,7 +292,7 @@ void FirstRunPage::passFocusOn()
         m_options.first()->setFocus();
 }
 
-/// Returns the text of the third step.
+/// Returns the text of the third step, which depends on the operators that match the SIM.
 QString FirstRunPage::choiceText() const
 {
     if (!hasSim() || m_listedNetwork.isEmpty())
@@ -398,8 +398,8 @@ void FirstRunPage::setForm(Form form)
     setMargins(m_list, isNarrow ? 0 : 54, 0, 0, 20);
 }
 
-// Arranges the buttons again when the card is resized, which happens after the page is resized, and
-// when the style sheet changes the size of the buttons.
+// Arranges the buttons again when the card is resized, or when the style sheet changes the size of
+// the buttons. The event filter is necessary, because the card is resized after the page.
 bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();

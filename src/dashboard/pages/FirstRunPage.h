@@ -59,7 +59,8 @@ private:
 
 /**
  * The page that replaces all other pages until the user has finished or skipped the first run. It
- * guides the user through the modem, the SIM, and the operator whose codes are to be used.
+ * guides the user in three steps: connecting a modem, checking the SIM, and selecting the operator
+ * whose codes are used.
  */
 class FirstRunPage : public Page
 {

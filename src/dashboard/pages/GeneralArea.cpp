@@ -203,7 +203,7 @@ void GeneralArea::watchPresets()
 }
 
 /// Hides the preset buttons and the field for their numbers. If the plug-in has shown new buttons
-/// since the last call, showPresets() will show only these buttons.
+/// since the last call, showPresets() will show these buttons instead of the previous ones.
 void GeneralArea::hidePresets()
 {
     QList<QPointer<QWidget>> hidden;

@@ -17,8 +17,8 @@ class LoadedPlugin;
  * Contains the plug-in's embedded general window, with its wide margins clipped. If the area is
  * smaller than the minimum size of the clipped window, it can be scrolled.
  *
- * A compact area hides the preset buttons and the field for their numbers. The buttons stay
- * enabled, so that the dashboard can click them.
+ * A compact area hides the preset buttons, which send configured codes, and the field for their
+ * numbers. The buttons stay enabled, so that the dashboard can click them.
  */
 class GeneralArea : public QScrollArea
 {

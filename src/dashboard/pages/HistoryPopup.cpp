@@ -148,8 +148,8 @@ void HistoryPopup::onTextEdited(const QString &text)
 }
 
 /// Places the list. The completer ignores the footer when it computes the height, and takes the
-/// width of the field. If the field is too narrow for the names, the list uses the width of the
-/// window instead.
+/// width of the field. If the field is too narrow for the names, the list is wider than the field,
+/// but not wider than the window.
 void HistoryPopup::place()
 {
     const QRect field(m_edit->mapToGlobal(QPoint()), m_edit->size());
@@ -272,8 +272,8 @@ bool HistoryPopup::onEditKey(int key)
     return false;
 }
 
-/// Moves between the last row and the button of the footer. Returns true if the key has been
-/// handled.
+/// Moves the current item from the last row to the button of the footer, or back. Returns true if
+/// the key has been handled.
 bool HistoryPopup::moveToButton(int key)
 {
     const int rows = m_model->rowCount();

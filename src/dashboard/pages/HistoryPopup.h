@@ -30,8 +30,8 @@ class HistoryPopup : public QObject
 public:
     using Names = std::function<QList<CodeName>()>;
 
-    /// For chains, CodeName::code contains the keys of the chain. `history` and all objects
-    /// that the functions use must outlive this object.
+    /// For chains, CodeName::code contains the code and the answers, such as "*123# › 2 › 1".
+    /// `history` and all objects that the functions use must outlive this object.
     HistoryPopup(CodeHistory *history, const Names &names, const Names &chains,
                  QObject *parent = nullptr);
 

@@ -445,7 +445,7 @@ void HomePage::lookAtValidity()
         view.value = entry.isNull() ? dashboardText("HOME_NOT_ASKED") : entry.text.simplified();
     }
     m_validity->show(view);
-    // In the narrow form, the balance card shows the validity.
+    // In the narrow form, the balance card shows the validity instead of this tile.
     m_validity->setVisible(!m_codes.validity.isEmpty() && m_form != Form::Narrow);
 }
 

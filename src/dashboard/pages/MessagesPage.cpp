@@ -259,8 +259,8 @@ void MessagesPage::readChosen()
     showParts();
 }
 
-/// Selects the row first, because a row that is current only because the list received the focus is
-/// not selected.
+/// When the list receives the focus, its first row becomes current but is not selected. Therefore,
+/// selects the row before reading its message.
 void MessagesPage::readActivated(const QModelIndex &index)
 {
     m_list->setCurrentIndex(index);

@@ -11,7 +11,9 @@ enum class Form { Wide, Medium, Narrow };
 
 enum class PageId { Home, Codes, Services, Messages, Settings };
 
-/** A page of the main window, which constructs a page when it is first needed and keeps it. */
+/**
+ * A page of the main window. The window constructs each page when it is first needed, and keeps it.
+ */
 class Page : public QWidget
 {
     Q_OBJECT

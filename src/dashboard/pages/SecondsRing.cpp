@@ -25,8 +25,8 @@ SecondsRing::SecondsRing(QWidget *parent) : QProgressBar(parent)
     setTextVisible(false);
     setBox(this, "ring"); // selects the style of rings in the style sheet
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    // The base class repaints only when the length of its bar changes, which does not happen every
-    // second.
+    // Repaints the ring for every value. The base class repaints only when the length of its bar
+    // changes, which does not happen every second.
     connect(this, &QProgressBar::valueChanged, this, QOverload<>::of(&QWidget::update));
     connect(&Look::instance(), &Look::changed, this, [this] {
         updateGeometry();

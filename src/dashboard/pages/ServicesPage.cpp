@@ -243,7 +243,8 @@ bool ServicesPage::isUsable() const
     return m_situation.canSend && !m_isMenuOpen;
 }
 
-/// Updates the notice, which is shown if the services cannot be used or if the operator is unknown.
+/// Updates the notice, and enables the cards if the services can be used. The notice is shown if
+/// the services cannot be used or if the operator is unknown.
 void ServicesPage::update()
 {
     const bool isUnknown = m_situation.kind == Situation::Kind::CodesUnknown;

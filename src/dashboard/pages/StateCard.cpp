@@ -16,8 +16,8 @@ namespace
 const int CARD_WIDTH = 560; // in pixels at 100 % text size
 const int TEXT_WIDTH = 400;
 
-/// Returns true if the remedy changes something, and false if it only explains something or offers
-/// a choice.
+/// Returns true if the main button is highlighted for this remedy. Remedies that only explain
+/// something or offer an alternative are not highlighted.
 bool isDecisive(Remedy remedy)
 {
     switch (remedy) {

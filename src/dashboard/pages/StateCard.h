@@ -17,7 +17,7 @@ namespace Dashboard
 class IconDisc;
 
 /// Sets the object name, the text, the icon and the style of the button to those of the remedy. The
-/// main button is highlighted, unless its remedy only explains something.
+/// main button is highlighted, unless its remedy only explains something or offers an alternative.
 void setRemedyButton(QPushButton *button, Remedy remedy, bool isMain);
 
 /**

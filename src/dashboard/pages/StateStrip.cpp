@@ -271,7 +271,7 @@ void StateStrip::update()
                   m_state.choices.isEmpty() ? m_state.text
                                             : dashboardText("STRIP_MENU_CHOOSE_NARROW"));
     else if (m_state.kind == Kind::Ready && isNarrow)
-        showWords(m_state.title, QString()); // few languages have room for more than a word
+        showWords(m_state.title, QString()); // in most languages, there is room for only one word
     else
         showWords(m_state.title, m_state.text);
     updateIcon();
@@ -330,7 +330,7 @@ void StateStrip::updateEndButtons()
     // The explanation of a failure needs the room; the menu contains the same action.
     m_copy->setVisible(!isBlockedNow && !isNarrow && !isOver && !m_state.isPending());
     m_more->setVisible(!isBlockedNow && (isRest || (!isNarrow && !m_state.isPending())));
-    // In the narrow form, the title needs the room.
+    // In the narrow form, the buttons show only their icons, because the title needs the space.
     for (QPushButton *button : {m_history, m_dismiss}) {
         button->setText(isNarrow ? QString() : button->accessibleName());
         button->setToolTip(isNarrow ? button->accessibleName() : QString());
@@ -562,7 +562,8 @@ void StateStrip::addReason()
     m_rowLayout->addWidget(reason);
 }
 
-/// Adds the button that stores the walk as a chain. It precedes the most recently sent codes.
+/// Adds the button that stores the user's menu choices as a chain. The button precedes those for
+/// the most recently sent codes.
 void StateStrip::addKeep()
 {
     if (!m_isKeepOffered)

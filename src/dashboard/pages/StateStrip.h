@@ -45,7 +45,7 @@ public:
     void setSituation(const Situation &situation);
     /// Shows the progress of a chain, or the reason why it has stopped.
     void setChain(const ChainState &chain);
-    /// Sets whether there is a button that stores the user's most recent walk as a chain.
+    /// Sets whether there is a button that stores the user's most recent menu choices as a chain.
     void setKeepOffered(bool isOffered);
     /// Sets the codes that are offered while no command is pending, starting with the newest one.
     void setRecent(const QList<CodeName> &codes);

@@ -11,14 +11,15 @@ namespace Dashboard
 {
 
 /**
- * A dialog in which the user enters a number for a top-up. It enters the number into the field of
- * the general window and clicks a preset button there, even if the field and the button are hidden.
+ * A dialog in which the user enters a number for a top-up. The dialog enters the number into the
+ * field of the general window and clicks a preset button there, even if the field and the button
+ * are hidden.
  */
 class TopUpSheet : public QDialog
 {
     Q_OBJECT
 public:
-    /// `general` is a parent of the general window.
+    /// `general` is the widget that contains the general window.
     TopUpSheet(const QWidget *general, QWidget *parent);
 
     /// Adds a button that clicks the preset button.

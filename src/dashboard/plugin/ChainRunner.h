@@ -26,8 +26,9 @@ struct ChainState {
 /**
  * Runs a chain through the general window, as a user would. Each step is sent only if the previous
  * reply still offers the same choice. The run ends early if a command fails, if anything else is
- * sent, if the user types into the code field, cancels the command or ends the menu, or if the
- * network sends a message that requires an answer. If a menu is open at this time, it stays open.
+ * sent, or if the network sends a message that requires an answer. It also ends if the user types
+ * into the code field, cancels the command or ends the menu. If a menu is open at this time, it
+ * stays open.
  */
 class ChainRunner : public QObject
 {
@@ -38,8 +39,8 @@ public:
 
     const ChainState &state() const { return m_state; }
     bool isRunning() const { return m_run.has_value(); }
-    /// Starts the chain by sending its code. Returns false if a chain is already running or no code
-    /// can be sent now.
+    /// Starts the chain by sending its code. Returns false if the chain is incomplete, another
+    /// chain is running, or no code can be sent now.
     bool run(const Chains::Chain &chain);
 
 public slots:

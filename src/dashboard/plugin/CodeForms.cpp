@@ -13,8 +13,8 @@ namespace
 const int LONGEST_SERVICE_CODE = 5; // digits
 const int SHORTEST_SECRET = 4;      // digits; PINs are not shorter
 
-/// Returns the template with HIDDEN_DIGITS instead of its placeholders if the code matches it.
-/// Otherwise, returns an empty string.
+/// If the code matches the template `form`, returns the template with HIDDEN_DIGITS instead of its
+/// placeholders. Otherwise, returns an empty string.
 QString hiddenBy(const QString &form, const QString &code)
 {
     QString pattern = QRegularExpression::escape(form);

@@ -7,14 +7,15 @@
 namespace Dashboard
 {
 
-/// Replaces the digits of a phone number or a PIN in a code that is displayed or stored.
+/// The character that replaces the digits of a phone number or a PIN in a code that is displayed or
+/// stored.
 extern const QChar HIDDEN_DIGITS; // the ellipsis
 
 /**
  * Returns the code with HIDDEN_DIGITS instead of each phone number and each PIN.
  *
- * A code that is equal to one of the templates contains only digits that somebody has written into
- * a file, so nothing is hidden. If the code matches a template with placeholders ("%s"), the digits
+ * `templates` are the codes in the operator's and the user's files. Nothing is hidden in a code
+ * that is equal to one of them. If the code matches a template with placeholders ("%s"), the digits
  * at the placeholders are hidden. Otherwise, each group of four or more digits is hidden, except
  * for the first group of up to five digits, which is the service code. This may hide harmless
  * groups, but ensures that PINs are never stored.

@@ -37,8 +37,8 @@ public:
     const QList<SentCode> &codes() const { return m_codes; }
     /// Sets whether the codes are stored on disk. If `isKept` is false, deletes the file.
     void setKept(bool isKept);
-    /// Sets whether codes are sent to a simulated network. These codes have a separate list, which
-    /// is only kept in memory.
+    /// Sets whether the device is a simulated network. Codes that are sent to a simulated network
+    /// have a separate list, which is only kept in memory.
     void setInvented(bool isInvented);
     /// Sets the codes of the operator and of the user; see codeWithoutNumbers().
     void setTemplates(const QStringList &templates) { m_templates = templates; }

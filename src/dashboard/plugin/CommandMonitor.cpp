@@ -224,7 +224,7 @@ bool CommandMonitor::isPending(const GeneralWindow &window)
     return isWindowWaiting || isInFlight;
 }
 
-/// Returns true if the window's command has to wait for that of another window or program.
+/// Returns true if the window's command has to wait for the command of another window or program.
 bool CommandMonitor::isQueued(const GeneralWindow &window) const
 {
     const QString sent = window.lastSent();
@@ -308,8 +308,8 @@ TKSV_FailureInfo CommandMonitor::outcome() const
     return failure;
 }
 
-// Records which requests belong to the query. The first of them may already have been sent, but
-// m_session is not updated yet.
+// Records which requests belong to the program's own query. The first of them may already have been
+// sent, but m_session does not include it yet.
 void CommandMonitor::setQuerying(bool isQuerying)
 {
     if (isQuerying)

@@ -19,10 +19,10 @@ namespace Dashboard
 namespace
 {
 
-// The plug-in itself ends every wait with a time-out. If a wait exceeds this time-out by
-// PLUGIN_GRACE, the plug-in does not work correctly.
+// The plug-in ends every wait with its own time-out. CommandSender waits longer than this time-out
+// by PLUGIN_GRACE, in case the plug-in does not work correctly.
 const int PLUGIN_GRACE = 5000; // ms
-// The maximum time between the arrival of a reply at the plug-in and at the tap.
+// The maximum time between the arrival of a reply at the plug-in and at the ReplyTap.
 const int TAP_GRACE = 1000; // ms
 
 int complain(const QString &text, int exitCode)
@@ -100,8 +100,9 @@ int CommandSender::printAnswer()
 }
 
 /// Prints the reason for the failure. If the plug-in has given up while the device is still
-/// waiting, the device does not report a reason. If the command was waiting for its turn, it may be
-/// sent before it is cancelled, so it is not certain that it has not been sent.
+/// waiting, the device does not report a reason. A command that was waiting for its turn may still
+/// be sent before it is cancelled. In this case, the message leaves open whether the command was
+/// sent.
 int CommandSender::fail(const QString &shown)
 {
     TKSV_FailureInfo failure = lastFailure();

@@ -71,7 +71,7 @@ EditorHints::EditorHints(QTableWidget *table)
 {
     table->setAccessibleDescription(dashboardText("EDITOR_HINT"));
     connect(table->model(), &QAbstractItemModel::dataChanged, this, &EditorHints::place);
-    // Queued, so that the hints are placed after the table has scrolled its cells.
+    // The connection is queued, so that place() is called after the table has scrolled its cells.
     connect(table->verticalScrollBar(), &QScrollBar::valueChanged, this, &EditorHints::place,
             Qt::QueuedConnection);
     QMetaObject::invokeMethod(this, "place", Qt::QueuedConnection);

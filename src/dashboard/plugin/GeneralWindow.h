@@ -44,12 +44,12 @@ public:
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
 
-    /// If there are no preset buttons, hides the field for their numbers and enlarges the
-    /// transcript to use their space.
+    /// If there are no preset buttons, which send configured codes, hides the field for their
+    /// numbers and enlarges the transcript to use their space.
     void hideUnusedPresets() const;
 
-    /// Returns true if the window is waiting for a reply. Returns false if the dashboard has
-    /// disabled the complete window.
+    /// Returns true if the window is waiting for a reply. The result does not change if the
+    /// dashboard disables the complete window.
     bool isWaiting() const;
     /// Enters the text into the command field and clicks Send. Returns false if the window does not
     /// accept the text.

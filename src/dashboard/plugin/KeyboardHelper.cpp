@@ -26,8 +26,8 @@ bool isReturn(const QKeyEvent *event)
            !event->isAutoRepeat();
 }
 
-// Sets the focus from the event loop, because the plug-in sets it to a hidden combo box while it
-// shows the window.
+// Sets the focus from the event loop, because the plug-in moves the focus to a hidden combo box
+// while showing the window.
 void focusSoon(QLineEdit *edit)
 {
     QMetaObject::invokeMethod(edit, "setFocus", Qt::QueuedConnection);

@@ -31,8 +31,9 @@ public:
     /// Calls shutDown().
     ~LoadedPlugin();
 
-    /// Returns the path of the plug-in library. If the current plug-in folder does not contain a
-    /// library, returns the path of the library that is installed with the program.
+    /// Returns the path of the plug-in library. If the current plug-in folder contains a
+    /// configuration but no library, returns the path of the library that is installed with the
+    /// program.
     static QString installedFile();
 
     /// Loads and initializes the plug-in and gets its USSD service. Must be called only once for

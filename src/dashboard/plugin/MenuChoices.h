@@ -12,8 +12,9 @@ struct MenuChoice {
     QString key; // "1" to "999", "0", "00", "*" or "#", always in ASCII
     QString text;
 
-    /// Returns the key and the text as the text of a button. Each of them has its own direction, so
-    /// that in a right-to-left window a left-to-right text does not swap its digits with the key.
+    /// Returns the key and the text as the text of a button. Each of them has its own direction.
+    /// Otherwise, a right-to-left window would swap the key with the digits of a left-to-right
+    /// text.
     QString buttonText() const;
     bool operator==(const MenuChoice &other) const;
     bool operator!=(const MenuChoice &other) const { return !(*this == other); }

@@ -29,7 +29,7 @@ public:
     QString userProfileFile() const;
     QString fileName(const QString &name) const;
 
-    /// Replaces the file with this name with a fresh copy of the installed file.
+    /// Restores the installed contents of the file with this name.
     bool restore(const QString &name);
     /// In the file with this name, replaces the first occurrence of `before` after the first
     /// occurrence of `anchor` with `after`. Returns false if there are no such occurrences.

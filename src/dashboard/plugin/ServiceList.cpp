@@ -65,8 +65,8 @@ Service::Input inputOf(const Formats::CWidgetItemInfo &control)
     return takesNumbersOnly(control.limitText) ? Service::Input::Number : Service::Input::Text;
 }
 
-/// Creates the service for a tree entry. Returns false if the group is null, which means that the
-/// window does not show any controls for this entry.
+/// Creates the service for a tree entry. Returns false if the window does not show a button for
+/// this entry, for example because the group is null.
 bool makeService(const Formats::CTreeItem &entry, const Formats::CWidget *group, Service *service)
 {
     if (!group || group->controls.size() != Formats::SmsLayoutFile::CONTROLS_OF_GROUP)

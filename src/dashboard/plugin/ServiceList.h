@@ -32,7 +32,7 @@ QList<Service> readServices(const QString &library);
 /// Selects a row of the services window. `window` is the window or one of its parents. Returns
 /// false if the row does not exist or if the window is sending something.
 bool selectService(const QWidget *window, int row);
-/// Like selectService(), for the services window that is open in a frame.
+/// Like selectService(), for the services window that is open in a separate frame.
 bool selectServiceInFrame(int row);
 
 } // namespace Dashboard

@@ -17,8 +17,8 @@ class UserActivity : public QObject
 public:
     explicit UserActivity(QObject *parent = nullptr);
 
-    /// Returns true if a frame of the plug-in is open, or if a command typed by the user is
-    /// pending.
+    /// Returns true if a window of the plug-in is open in a separate frame, or if a command typed
+    /// by the user is pending.
     static bool isBusy();
     /// Returns true while a command that the user typed into a general window is pending.
     static bool isCommandPending();

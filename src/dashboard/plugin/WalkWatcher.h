@@ -17,11 +17,12 @@ public:
     /// The monitor must outlive the watcher.
     explicit WalkWatcher(CommandMonitor *monitor, QObject *parent = nullptr);
 
-    /// Returns the most recent walk that can be kept, or a chain without steps if there is none.
+    /// Returns the code and the recorded choices as a chain, or a chain without steps if there is
+    /// nothing that can be stored.
     Chains::Chain walk() const { return m_recorder.finished(); }
 
 public slots:
-    /// Discards the walk. Must be called when the SIM has changed.
+    /// Discards the recorded choices. Must be called when the SIM has changed.
     void forget();
 
 signals:

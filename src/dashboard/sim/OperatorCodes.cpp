@@ -86,7 +86,8 @@ QString OperatorCodes::currentNetwork() const
         return status.homeNetwork;
     if (!status.isSimulated && !status.imsi.isEmpty())
         return networkOfImsi(database(), status.imsi);
-    // If the IMSI is empty, the SIM may not have been read yet. The network may still be the same.
+    // If the IMSI is empty, the SIM may not have been read yet. It may be the previous SIM, so the
+    // network is kept.
     return status.imsi.isEmpty() ? m_network : QString();
 }
 

@@ -70,8 +70,8 @@ public:
     bool hasDatabase() const;
 
     /// Writes the operator's codes to the folder for the SIM's network and selects this folder. If
-    /// the folder contains manually edited files, has no effect unless `setAside` is true. The
-    /// edited files are then kept in their folder.
+    /// the folder contains manually edited files and `setAside` is false, has no effect. If
+    /// `setAside` is true, the edited files are kept, but no longer used.
     Provisioning::ProvisionOutcome take(const Provisioning::Provider &provider, bool setAside);
     /// Records that no operator is to be used for this SIM's network.
     void decline();

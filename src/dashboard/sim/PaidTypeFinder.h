@@ -32,12 +32,12 @@ public:
 
     /// Discards the result, so that the query is sent again for the current SIM.
     void restart();
-    /// Sends the query. Does nothing if the query has already been sent or the settling time has
-    /// not elapsed. Must be called only while the device is ready and not in use.
+    /// Sends the query. Does nothing if the query has already been sent or if restart() was called
+    /// less than 200 ms ago. Must be called only while the device is ready and not in use.
     void tryToAsk();
 
 signals:
-    /// Emitted when the settling time has elapsed, so that the query may be sent.
+    /// Emitted 200 ms after restart(). tryToAsk() can then send the query.
     void settled();
     /// Emitted when the return value of paidType() or isAsking() has changed.
     void changed();

@@ -81,8 +81,8 @@ void SimFollower::onDeviceLost()
     m_finder.restart();
 }
 
-/// Sends the query. Does nothing while the user is using the device or a menu is open, because the
-/// query would end the user's session.
+/// Sends the prepaid/postpaid query. Does nothing while the user is using the device or a menu is
+/// open, because the query would end the user's session.
 void SimFollower::ask()
 {
     const bool isThere = m_device->status().isRegistered() && !m_imsi.isEmpty();

@@ -28,26 +28,29 @@ public:
     /// The plug-in and the device must outlive the follower.
     SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObject *parent = nullptr);
 
-    /// Returns "Prepaid", "Postpaid" or a message that the query is in progress, in the user's
-    /// language. Returns an empty string if the type of contract is unknown.
+    /// Returns "Prepaid", "Postpaid" or a message that the prepaid/postpaid query is in progress,
+    /// in the user's language. Returns an empty string if the type of contract is unknown.
     QString paidTypeText() const;
     bool isAsking() const { return m_finder.isAsking(); }
     /// Returns the tap that receives each reply. The follower owns the tap.
     ReplyTap *replies() { return &m_replies; }
-    /// Sets the function that determines whether the query may be sent. If no function is set, the
-    /// query is not sent.
+    /// Sets the function that determines whether the prepaid/postpaid query may be sent. If no
+    /// function is set, the query is not sent.
     void setDetectionRule(const std::function<bool()> &mayDetect) { m_mayDetect = mayDetect; }
 
 public slots:
-    /// Starts observing the SIM. Must be called each time the plug-in has been loaded or restarted.
+    /// Reads the SIM and offers its windows. Must be called each time the plug-in has been loaded
+    /// or restarted.
     void start();
-    /// Like start(), but keeps the type of contract of the same SIM, and does not repeat the query.
-    /// Must be called if the plug-in has been restarted with the same configuration.
+    /// Like start(), but keeps the type of contract of the same SIM, and does not repeat the
+    /// prepaid/postpaid query. Must be called if the plug-in has been restarted with the same
+    /// configuration.
     void resume();
-    /// Must be called when a network-initiated message requires an answer. The query is not sent
-    /// until this session has ended.
+    /// Must be called when a network-initiated message requires an answer. The prepaid/postpaid
+    /// query is not sent until this session has ended.
     void questionCame();
-    /// Sends the query if it is due and permitted. Must be called when the query becomes permitted.
+    /// Sends the prepaid/postpaid query if it is due and permitted. Must be called when the query
+    /// becomes permitted.
     void ask();
 
 signals:

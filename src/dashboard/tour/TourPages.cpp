@@ -21,7 +21,7 @@ const QSize NARROW(360, 640);
 const int FONT_SIZE = 14; // pixels
 const int LARGE_FONT_SIZE = 28;
 
-/** A form of the main window. */
+/** The size, theme and font size with which a picture of each page is taken. */
 struct Shape {
     QSize size;
     ThemeChoice theme;

@@ -26,7 +26,7 @@ typedef CommandState::Kind Kind;
 /// Opens a widget over the window and returns it.
 typedef std::function<QWidget *()> Opener;
 
-/** A form and a theme of the main window. */
+/** A size of the main window, which determines its form, and a theme. */
 struct Shape {
     QSize size; // pixels
     ThemeChoice theme;
@@ -80,7 +80,8 @@ HomeSetup &home(const TourGuide &guide)
     return *guide.window()->findChild<HomeSetup *>();
 }
 
-/// Returns the button that can be clicked. The strip creates its buttons again with each change.
+/// Returns the visible and enabled button with this name. There may be others, because the strip
+/// creates its buttons again with each change.
 QPushButton *readyButton(const TourGuide &guide, const char *name)
 {
     for (QPushButton *button : guide.window()->findChildren<QPushButton *>(QLatin1String(name))) {
@@ -170,7 +171,7 @@ bool walkKeeping(TourGuide &guide)
            takeInShapes(guide, "history", [&guide] { return openHistory(guide); });
 }
 
-/// Runs a chain whose last choice has another price now.
+/// Runs a chain whose last choice has a different price now, so that the chain stops.
 bool walkStop(TourGuide &guide)
 {
     home(guide).favourites().keep({"Day pack", MENU, {{"2", "Data packs"}, {"1", "Day: 500 MB"}}});

@@ -87,7 +87,8 @@ public slots:
     /// contains a code that has not been sent. Does not repeat the prepaid/postpaid query.
     bool renewOwnCodes();
     /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. If this would cancel the
-    /// prepaid/postpaid query, the frame opens after a short delay.
+    /// prepaid/postpaid query, the frame opens when the query has ended, but after 5 seconds at the
+    /// latest.
     void openFrame(int paidType);
 
 signals:
@@ -98,7 +99,8 @@ signals:
     void windowsOffered();
     void paidTypeChanged();
     void frameOpened();
-    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in this frame.
+    /// Emitted when a window of the plug-in that has its own frame was closed. The user may have
+    /// saved codes in this window.
     void frameClosed();
     void commandEnded();
     /// Emitted when a network-initiated message has arrived.

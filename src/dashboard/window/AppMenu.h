@@ -29,7 +29,8 @@ public:
     /// Offers the windows for the SIM, which are a combination of SimWindow flags. The general
     /// window is not offered if the text is too large for its frame.
     void offer(int windows);
-    /// Sets the description of the SIM at the top of the menu. An empty string hides it.
+    /// Sets the description of the SIM at the top of the menu. If `text` is empty or `isEyeShown`
+    /// is false, hides the description and the action that shows the SIM's number.
     void setSim(const QString &text, bool isEyeShown);
     /// Updates the strings after a language change.
     void retranslate();

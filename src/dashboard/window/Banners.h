@@ -27,15 +27,16 @@ class Banners : public QFrame
 {
     Q_OBJECT
 public:
-    /// The kinds of banners. If there are several banners, the first one is shown. The banner of
-    /// the demonstration is the last one, because it cannot be closed and would hide the others.
+    /// The kinds of banners. If there are several banners, the first one in this order is shown.
+    /// The banner of the demonstration is the last one, because it cannot be closed and would hide
+    /// the others.
     enum Kind { Saved, Operator, Problem, Restore, Demonstration };
 
     explicit Banners(QWidget *parent = nullptr);
 
     void setBanner(Kind kind, const Banner &banner);
     const Banner &banner(Kind kind) const { return m_banners[kind]; }
-    /// Returns the kind of the visible banner, or -1 if there is none.
+    /// Returns the kind of the first banner that has a title, or -1 if there is none.
     int shown() const;
     void setForm(Form form);
     /// Hides every banner while `isSuppressed` is true.

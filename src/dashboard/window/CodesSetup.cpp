@@ -85,8 +85,8 @@ void CodesSetup::followDevice()
     m_history.setInvented(m_controller->device().status().isSimulated);
 }
 
-/// Connects the objects for chains. Walks are discarded when the SIM may have changed, because each
-/// walk belongs to a single SIM.
+/// Connects the objects for chains. Recorded menu choices are discarded when the SIM may have
+/// changed, because they belong to a single SIM.
 void CodesSetup::followChains()
 {
     connect(m_controller, &AppController::deviceChosen, &m_walks, &WalkWatcher::forget);

@@ -25,8 +25,8 @@ QString asMenuText(QString name)
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-/// Returns the name of a demonstration in the user's language, or the name of the file if the user
-/// has selected it.
+/// Returns the name of a demonstration in the user's language, or the name of the file if the file
+/// is not one of the installed demonstrations.
 QString nameOf(const QString &file, const QStringList &shipped)
 {
     QString name = Scenarios::displayName(file);

@@ -22,7 +22,8 @@ namespace
 const int SHOWN_DIGITS = 4;
 const char DEMONSTRATION[] = "demonstration";
 
-/// Returns the type of contract of the account window that is offered.
+/// Returns the type of contract of the account window that is offered, or Unknown unless exactly
+/// one is offered.
 PaidType paidTypeOf(int windows)
 {
     const int account = windows & (SIM_WINDOW_PREPAID | SIM_WINDOW_POSTPAID);

@@ -42,7 +42,8 @@ public slots:
     void readCodes();
     /// Deletes the entries and the favourites.
     void deleteAll();
-    /// Must be called when the key of the SIM has changed.
+    /// Applies the new key of the SIM. Must be called when the keys of all SIMs have changed; see
+    /// forgetSimKeys().
     void renewSimKey();
     /// Saves the entries to a file that the user selects.
     void exportAccount();

@@ -79,8 +79,8 @@ bool isAbsent(Situation::Kind kind)
            kind == Situation::Kind::ModemRemoved;
 }
 
-// Installs the accessible roles first, because the role of a widget does not change after a screen
-// reader has queried it, which may happen while the widget is being constructed.
+// Installs the accessible roles first. A screen reader may query the role of a widget while the
+// widget is being constructed, and the role does not change afterwards.
 QWidget *makeRoot(QWidget *window)
 {
     installAccessibleRoles();
@@ -100,8 +100,8 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
 {
     HostCore::HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
-    // These boxes must be set before the pages are constructed. Otherwise, the style would have to
-    // be applied to all widgets of the pages again.
+    // The box styles must be set before the pages are constructed. Otherwise, Qt would apply the
+    // style sheet to all widgets of the pages again.
     setBox(m_root, "root");
     setBox(m_stack, "page");
     makePages();
@@ -422,7 +422,8 @@ void MainWindow::showBanners()
     m_banners->setBanner(Banners::Restore, restore);
 }
 
-/// Returns the banner that offers to show new codes without a button in the history.
+/// Returns the banner about new codes that have no button. The banner offers to show these codes in
+/// the history.
 Banner MainWindow::savedBanner() const
 {
     if (m_saved.isEmpty())
@@ -488,7 +489,8 @@ void MainWindow::onFrame(QWidget *frame, bool isShown)
         return;
     }
     EditorHints::addTo(frame);
-    // Otherwise, a click could raise this window above the modal one, and nothing would react.
+    // Keeps the frame above this window. Otherwise, a click could raise this window above the modal
+    // frame, and this window would not react.
     frame->windowHandle()->setTransientParent(windowHandle());
 }
 

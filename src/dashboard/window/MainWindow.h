@@ -90,7 +90,8 @@ public slots:
     /// Restarts the plug-in, so that it reloads its configuration.
     PluginFailure restartPlugin();
     void setLanguage(const QString &code);
-    /// Closes the window and quits the program, even if a frame or a message box is open.
+    /// Closes the window and quits the program, even if a window of the plug-in or a message box is
+    /// open.
     void quit();
     /// Raises and activates the window.
     void raiseAgain();
@@ -100,7 +101,8 @@ public slots:
     void showMenu();
 
 signals:
-    /// Emitted when a frame of the plug-in was closed, in which the user may have saved codes.
+    /// Emitted when a window of the plug-in that has its own frame was closed. The user may have
+    /// saved codes in this window.
     void frameClosed();
 
 protected:

@@ -122,8 +122,8 @@ void MainWindow::applyForm()
     forgetSizes(m_root);
 }
 
-// Updates the form, unless a frame of the plug-in is open, because its position depends on the
-// layout of the window.
+// Updates the form, unless a window of the plug-in is open in a separate frame, because the
+// position of the frame depends on the layout of the window.
 void MainWindow::updateForm()
 {
     const Form form = formOf(width());

@@ -45,7 +45,8 @@ void MessageParts::retranslate()
         m_question->retranslate();
 }
 
-/// Shows or hides the open menu of the network above a frame.
+/// Shows or hides the open menu of the network above a window of the plug-in that has its own
+/// frame.
 void MessageParts::showQuestion()
 {
     if (!m_question)

@@ -107,7 +107,7 @@ void OperatorChooser::choose()
     connect(m_dialog.data(), &QDialog::accepted, this, [this] {
         const bool isOperator = m_dialog->choosesOperator();
         const Provider provider = m_dialog->provider();
-        // Must be called after the dialog has been closed.
+        // useChosen() must be called after the dialog has been closed.
         QTimer::singleShot(0, this,
                            [this, isOperator, provider] { useChosen(isOperator, provider); });
     });
@@ -164,7 +164,8 @@ void OperatorChooser::explainMissingNetwork()
     QPushButton *wayOut = box->addButton(remedyText(remedy), QMessageBox::AcceptRole);
     setButtonKind(wayOut, "primary");
     box->setEscapeButton(box->addButton(dashboardText("SHEET_CLOSE"), QMessageBox::RejectRole));
-    // Queued, because the remedy may open a menu, and the message box must be closed before.
+    // The connection is queued, because the remedy may open a menu, and the message box must be
+    // closed first.
     connect(
         wayOut, &QPushButton::clicked, this, [this, remedy] { emit remedyRequested(remedy); },
         Qt::QueuedConnection);

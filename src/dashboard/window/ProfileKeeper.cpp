@@ -36,8 +36,8 @@ void ProfileKeeper::setOffer(Offer offer)
     emit offerChanged();
 }
 
-// Does not update the copy while it is offered, because the codes that the user saves in the
-// meantime would replace it.
+// Does not update the copy while it is offered. Otherwise, the codes that the user saves in the
+// meantime would replace the codes in the copy.
 void ProfileKeeper::refresh()
 {
     if (m_offer == Nothing && !m_backup.refresh() && m_backup.isOutdated())

@@ -37,7 +37,7 @@ QLabel *makeText(const char *type, const char *name, QWidget *parent)
     return label;
 }
 
-/// Returns an open frame of the plug-in, or null.
+/// Returns an open window of the plug-in that has its own frame, or null.
 QWidget *openFrame()
 {
     for (QWidget *window : QApplication::topLevelWidgets()) {
@@ -57,8 +57,8 @@ QuestionDialog::QuestionDialog(CommandMonitor *monitor, QWidget *mainWindow)
       m_later(makeButton("", this))
 {
     setObjectName(QLatin1String("Dashboard_QuestionDialog"));
-    // The dialog receives input events even though another modal window is open, because it is
-    // opened later.
+    // The dialog receives input events although another modal window is open, because the dialog is
+    // opened after that window.
     setWindowModality(Qt::ApplicationModal);
     m_later->setObjectName(QLatin1String("Dashboard_QuestionLater"));
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -103,7 +103,7 @@ void QuestionDialog::layOut()
 }
 
 /// Returns true if the network expects an answer and the user cannot enter it because of a modal
-/// frame. If the frame contains the general window, the user can enter the answer there.
+/// window of the plug-in. If this is the general window, the user can enter the answer there.
 bool QuestionDialog::isWanted() const
 {
     const CommandState &state = m_monitor->state();

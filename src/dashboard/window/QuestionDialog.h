@@ -28,8 +28,8 @@ public:
     AnswerBox *answerBox() const { return m_answers; }
 
 public slots:
-    /// Shows or hides the dialog as required. Must be called when a window of the plug-in was
-    /// opened or closed.
+    /// Shows the dialog if a menu is open that a window of the plug-in blocks, or hides the dialog.
+    /// Must be called when a window of the plug-in was opened or closed.
     void look();
     void retranslate();
 

@@ -28,14 +28,15 @@ public:
 
 public slots:
     void perform(Dashboard::Remedy remedy);
-    /// Updates the strings of open dialogs after a language change.
+    /// Updates the strings of the PIN dialog after a language change.
     void retranslate();
 
 signals:
-    /// Emitted when the Modem menu is to be opened.
+    /// Emitted to request that the main window open the Modem menu.
     void modemMenuRequested();
     void operatorRequested();
-    /// Emitted when the Codes page is to be opened with the focus in the command field.
+    /// Emitted to request that the main window open the Codes page with the focus in the command
+    /// field.
     void typingRequested();
     /// Emitted with the error message if a device cannot be used.
     void deviceFailed(const QString &error);

@@ -42,7 +42,7 @@ public:
     bool isListening() const { return m_notifier; }
 
 signals:
-    /// Emitted when another instance is started.
+    /// Emitted when another instance was started and requests that the window be raised.
     void raiseRequested();
 
 private:
