@@ -46,8 +46,8 @@ used_keys | sort -u | CHECK=$check perl -e '
     sub content { open(my $file, "<", $_[0]) or die "$_[0]: $!\n"; local $/; return <$file>; }
     sub report { print "$_[0]\n"; $wrong = 1; }
 
-    # Calls the function for each message with its context, its key and the text of the message.
-    # Replaces the message with the result.
+    # Calls $function for each <message> element in $text, with the context, the key and the element.
+    # Replaces the element with the result.
     sub each_message {
         my ($text, $function) = @_;
         my $context = "";

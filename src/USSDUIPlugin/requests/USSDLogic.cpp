@@ -277,8 +277,8 @@ void USSDLogic::armReplyTimer(quint64 number)
         m_pTimer->disarm(arming);
 }
 
-/// Wakes the waiting sender and disarms the time-out, unless the time-out belongs to a head after
-/// `lastHead`. Such a head was sent between the claim of the reply and this call.
+/// Wakes the thread that waits to send the next command. Disarms the time-out unless it belongs to
+/// a head after `lastHead`, which was sent between the claim of `lastHead` and this call.
 void USSDLogic::stopReplyTimer(quint64 lastHead)
 {
     QtCompat::MutexLocker locker(&m_mutexTimeout);

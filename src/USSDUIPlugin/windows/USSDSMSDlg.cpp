@@ -31,8 +31,8 @@ namespace
 const int NO_ENTRY = -1;
 
 /**
- * The position of each fixed widget in m_listWidgets, which is also the position of its control in
- * a group.
+ * The position of each fixed widget in m_listWidgets. The layout file lists the controls of a
+ * service, which describe these widgets, in the same order.
  */
 enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
 

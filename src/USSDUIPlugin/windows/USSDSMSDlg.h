@@ -74,7 +74,8 @@ public:
 
     QSize sizeHint() const override;
     static QString tr(const QString &key);
-    /// Returns the object name of the widget with this role, for use in style sheets.
+    /// Returns the object name of a widget for use in style sheets. `role` is the last part of the
+    /// name, such as "SendButton".
     static QString objectNameOf(const char *role);
 
 public slots:
@@ -84,8 +85,8 @@ public slots:
     void OnResponseUSSDSMSReceived(int component, QString text);
     void OnSendResult(bool ok, QString number, QString text);
     void OnCanSendSMS(bool can);
-    /// Must be called when the outer window is closed. This object may have been deleted when the
-    /// function returns.
+    /// Removes the commands of this window from the queue and emits clickedcloseButton(). Must be
+    /// called when the frame is closed. A receiver of the signal may delete this object.
     void OnClickedCloseButton();
 
 signals:
