@@ -17,7 +17,7 @@ namespace Formats
 
 /*
  * The layout of the USSD-SMS window and the commands of its services, and the functions that read
- * them from the configuration file. They do not depend on files or windows. An invalid value is
+ * them from the configuration file. This code does not open files or windows. An invalid value is
  * dropped or replaced, and a complaint is added to SmsLayout::complaints.
  */
 

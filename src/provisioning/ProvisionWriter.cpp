@@ -99,7 +99,7 @@ void removeUnfinished(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/** Writes a set of files. The lock is held during the lifetime of the object. */
+/** Writes a set of files. Other processes cannot write to the folder while write() is running. */
 class Writer
 {
 public:

@@ -50,8 +50,8 @@ Provision readProvision(const QString &folder);
 struct ProvisionOrder {
     QString folder;        // created if necessary
     QString pluginLibrary; // path of the plug-in to which a link is created; empty for no link
-    /// Allows the writer to replace files that have been modified manually. They are kept in their
-    /// folder.
+    /// Allows the writer to replace files that have been modified manually. The modified files are
+    /// kept in their folder.
     bool setChangedAside = false;
 };
 

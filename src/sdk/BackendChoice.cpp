@@ -180,7 +180,7 @@ void BackendChoice::start(const Device &device)
     m_device = device;
 }
 
-/// Starts the watch. If it is already running, makes it search for modems again, because the
+/// Starts the watch for modems. If it is already running, makes it search again, because the
 /// message bus or ModemManager may have become available.
 void BackendChoice::startWatch()
 {

@@ -140,7 +140,8 @@ private:
     QLabel *m_pResultLabel;
     QtCompat::RegExpValidator *m_pValidator;
     QList<QWidget *> m_listWidgets; // labels, input field and button, in the order of Position
-    // Copies of the controls for m_listWidgets. The original group may be replaced.
+    // Copies of the controls that describe m_listWidgets. They remain valid if the layout, which
+    // contains the originals, is read again.
     QList<Formats::CWidgetItemInfo> m_listControls;
     bool m_bBusy;
     bool m_bFocusParked;

@@ -14,15 +14,15 @@ namespace Tksv
 {
 
 /**
- * The backend for modems that ModemManager controls. It runs on the watch's thread. The functions
- * of the Backend interface post tasks to this thread and derive their return values from the
- * DeviceInfo that was published last.
+ * The backend for modems that ModemManager controls. It runs on the thread of ModemWatch. The
+ * functions of the Backend interface post tasks to this thread and derive their return values from
+ * the DeviceInfo that was published last.
  */
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
 public:
     /// Creates a backend for the modem with this identifier. An empty identifier selects the first
-    /// registered modem, or the first modem if none is registered. The watch must outlive the
+    /// registered modem, or the first modem if none is registered. `watch` must outlive the
     /// backend.
     ModemManagerBackend(ModemWatch &watch, std::string equipmentId);
 
@@ -37,8 +37,8 @@ public:
     bool setModes(const TKSV_Modes &modes) override;
     DeviceInfo info() const override;
 
-    /// Updates the backend after a change. Must be called from the watch's thread after every
-    /// change that the watch reports.
+    /// Updates the backend. Must be called from the thread of ModemWatch after every change that
+    /// ModemWatch reports.
     void modemsChanged();
 
 private:

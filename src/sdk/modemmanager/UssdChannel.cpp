@@ -19,13 +19,13 @@ const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STA
 /// The time to wait for a state change after a reply. When it has elapsed, the state is queried.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
-/// The time after which a call that is still running can be assumed not to be refused. If another
-/// program has a session, the daemon refuses the call after consulting polkit, which takes a few
-/// milliseconds unless polkit prompts the user.
+/// If a call is still running after this time, the daemon has probably not refused it. The daemon
+/// refuses a call while another program has a session, but only after it has consulted polkit. This
+/// takes a few milliseconds unless polkit prompts the user.
 const std::chrono::milliseconds REFUSAL_LIMIT(150);
 
-/// The interval between two checks of the queue. It is also the time for which the program keeps
-/// its turn after a command.
+/// The interval at which a waiting program checks whether it is its turn to use the modem; see
+/// SessionTurn. It is also the time for which the program keeps its turn after a command.
 const std::chrono::milliseconds TURN_PAUSE(20);
 
 /// The time limit for waiting for a turn, in milliseconds; see TKSV_Device_SetTurnLimit().

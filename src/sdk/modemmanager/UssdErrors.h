@@ -27,7 +27,8 @@ bool isInProgress(const GError &error);
 /// command.
 bool isServiceLost(const GError &error);
 
-/// Returns true if the system's policy denied the call.
+/// Returns true if the system's policy denied the call, or if polkit is missing or does not
+/// respond.
 bool isNotPermitted(const GError &error);
 
 /// Returns the problem to report to the user if the modem could not be enabled.

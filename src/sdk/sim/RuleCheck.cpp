@@ -20,7 +20,8 @@ std::string inBraces(std::vector<std::string> names)
 }
 
 /**
- * Checks that the keys of a rule are consistent with each other and with the rest of the scenario.
+ * Checks a rule, which is a group that specifies the network's response to a code, an answer or a
+ * short message. Its keys must be consistent with each other and with the rest of the scenario.
  */
 class RuleCheck
 {

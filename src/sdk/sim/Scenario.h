@@ -38,7 +38,7 @@ enum class Outcome {
     DeviceEvent
 };
 
-/** The rule for a code or for an answer to a menu. */
+/** Specifies how the network responds to a code or to an answer to a menu. */
 struct Rule {
     Outcome outcome = Outcome::Reply;
     std::string reply;
@@ -60,7 +60,7 @@ struct Rule {
     AwayTime away = DEFAULT_AWAY;
 };
 
-/** The rule for short messages to a number. */
+/** Specifies how the network handles short messages to a number. */
 struct SmsRule {
     int result = 0; // value of TKSV_SMSSendResult::result
     Milliseconds delay = Milliseconds(0);
