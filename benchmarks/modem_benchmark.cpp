@@ -63,7 +63,7 @@ const int IDLE_SECONDS = 60;
     std::exit(1);
 }
 
-/// The plug-in's pipeline, used from the GUI thread.
+/// Sends commands through the plug-in's USSDLogic and waits for the replies on the GUI thread.
 class Pipeline : public QObject
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 /*
- * Measures the round trip of a command through the pipeline, and the cost of a long queue. The
- * program is built both with log lines, which a handler discards, and without log lines.
+ * Measures the round trip of a command through the pipeline, which consists of the plug-in's
+ * command queue and the device SDK, and the cost of a long queue. The program is built both with
+ * log lines, which a handler discards, and without log lines.
  *
  * The round trip is measured twice: first, all threads are bound to one core; then, the GUI
  * thread and the device's thread are bound to different cores. Without these bindings, the threads
@@ -96,7 +97,7 @@ private:
     Counter m_counter;
 };
 
-/// Constructs the pipeline and deletes it when the object is destroyed.
+/// Constructs the USSDLogic singleton, and deletes it when the object is destroyed.
 class Pipeline
 {
 public:

@@ -31,7 +31,8 @@ while [ $# -gt 0 ]; do
 done
 [ -z "$new" ] || printf '<TS language="%s">\n</TS>\n' "$new" >"translations/$new.ts"
 
-# Prints the keys that the code and the files of the plug-in use, as "context key".
+# Prints the keys that the code and the files of the plug-in use, one per line, each after its
+# context, for example "Dashboard PIN_CAPTION".
 used_keys() {
     grep -rhoE --include='*.cpp' --include='*.h' '"(IDS|IDC|USSD_CODE)_[A-Z0-9_]+"' src |
         tr -d '"' | sed 's/^/USSDUIPlugin /'

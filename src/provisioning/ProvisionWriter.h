@@ -69,8 +69,9 @@ struct ProvisionOutcome {
     QString problem;          // error message in English, or an empty string
 };
 
-/// Writes the files of `plan` and activates them unless the result is Current or Refused. If
-/// several processes write to the same folder, they wait for each other.
+/// Writes `files`, which were generated for `plan`, and activates them. If the result is not
+/// Written, the active files are unchanged. If several processes write to the same folder, they
+/// wait for each other.
 ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan &plan,
                                 const ProvisionFiles &files);
 

@@ -57,8 +57,8 @@ public:
     static QString tr(const QString &key);
 
 public slots:
-    /// Clears the command queue and emits clickedcloseButton(). Must be called when the frame is
-    /// closed. A receiver of the signal may delete this object.
+    /// Removes the pending commands and emits clickedcloseButton(). Must be called when the frame
+    /// is closed. A receiver of the signal may delete this object.
     void OnClickedCloseButton();
 
 signals:

@@ -160,7 +160,7 @@ void CUSSDSMSDlg::logComplaints() const
         USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
 }
 
-/// Connects the window to the logic. Intentionally called only if the file could be read
+/// Connects the window to the logic object. Intentionally called only if the file could be read
 /// completely. A window without a connection does not receive replies. It can send short messages
 /// but no commands.
 void CUSSDSMSDlg::connectLogic()

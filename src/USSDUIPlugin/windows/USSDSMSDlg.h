@@ -47,7 +47,7 @@ public:
 
     /// Builds the window. Must be called only once.
     void InitDialog();
-    /// Reads the layout from the file, and connects the window to the logic if the file is
+    /// Reads the layout from the file, and connects the window to the logic object if the file is
     /// well-formed. The constructor also calls this function.
     void InitConfig();
     /// Reads the layout. Returns false if the reader has no device or if the document is not

@@ -165,7 +165,8 @@ void UssdChannel::endForeignSession()
 
 /* ---- calls to the daemon ----------------------------------------------------------------- */
 
-/// Starts the next call unless a call is running.
+/// Ends the session if this has been requested. Otherwise, starts the next call unless a call is
+/// running.
 void UssdChannel::startNext()
 {
     if (!m_ussd || m_cancelling)
@@ -226,8 +227,8 @@ void UssdChannel::turnTimerElapsed()
         startNext();
 }
 
-/// Reports the request as failed because the time limit for its turn has expired. By now, the
-/// client has stopped waiting, and must not be surprised by a command that is sent later.
+/// Reports the request as failed because the time limit for its turn has expired. A command must
+/// not be sent after its client has stopped waiting for the reply.
 void UssdChannel::missTurn()
 {
     const Request request = *std::exchange(m_next, std::nullopt);

@@ -20,8 +20,9 @@ std::string inBraces(std::vector<std::string> names)
 }
 
 /**
- * Checks a rule, which is a group that specifies the network's response to a code, an answer or a
- * short message. Its keys must be consistent with each other and with the rest of the scenario.
+ * Checks a rule: a group that specifies the response to a code or an answer, or the text of a
+ * network-initiated message. Its keys must be consistent with each other and with the rest of the
+ * scenario.
  */
 class RuleCheck
 {

@@ -38,7 +38,7 @@ enum class Outcome {
     DeviceEvent
 };
 
-/** Specifies how the network responds to a code or to an answer to a menu. */
+/** The response to a code or to an answer to a menu, or a network-initiated message. */
 struct Rule {
     Outcome outcome = Outcome::Reply;
     std::string reply;
