@@ -20,10 +20,10 @@ struct UssdCallContext {
 /// true.
 Failure failureOfUssdError(const GError &error, const UssdCallContext &context);
 
-/// Returns true if the daemon is still busy with an earlier call.
+/// Returns true if ModemManager is still busy with an earlier call.
 bool isInProgress(const GError &error);
 
-/// Returns true if the daemon or the modem has disappeared. In this case, a device event ends the
+/// Returns true if ModemManager or the modem has disappeared. In this case, a device event ends the
 /// command.
 bool isServiceLost(const GError &error);
 
