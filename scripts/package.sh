@@ -35,8 +35,8 @@ done
 output=$(realpath -m "${1:-build/packages}")
 NOBODY='The USSD UI plug-in authors <nobody@ussd-ui-plugin.invalid>'
 
-# set_maintainer FOLDER: replaces the placeholder for the maintainer in the source tree in FOLDER with
-# DEBFULLNAME and DEBEMAIL, if DEBEMAIL is set.
+# set_maintainer FOLDER: replaces the placeholder for the maintainer in the source tree in FOLDER
+# with DEBFULLNAME and DEBEMAIL, if DEBEMAIL is set.
 set_maintainer()
 {
     [ -n "${DEBEMAIL:-}" ] || return 0

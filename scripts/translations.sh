@@ -47,8 +47,8 @@ used_keys | sort -u | CHECK=$check perl -e '
     sub content { open(my $file, "<", $_[0]) or die "$_[0]: $!\n"; local $/; return <$file>; }
     sub report { print "$_[0]\n"; $wrong = 1; }
 
-    # Calls $function for each <message> element in $text, with the context, the key and the element.
-    # Replaces the element with the result.
+    # Calls $function for each <message> element in $text, with the context, the key and the
+    # element. Replaces the element with the result.
     sub each_message {
         my ($text, $function) = @_;
         my $context = "";
