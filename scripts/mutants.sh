@@ -84,7 +84,7 @@ replace()
 }
 
 # Applies the fault $name, which replaces $old with $new in $file. Runs the tests in $tests first. If
-# these tests pass, also runs all other tests.
+# these tests pass, also runs all tests with the labels plugin and hostile.
 try_fault()
 {
     local source result=0 pattern

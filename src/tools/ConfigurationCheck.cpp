@@ -225,7 +225,8 @@ void Check::paid(const char *name)
     twins(items);
 }
 
-/// Moves to the next item. If it is outside the section, adds a finding and returns false.
+/// Moves to the next item. If it is missing or not a child of the section, adds a finding, does not
+/// move, and returns false.
 bool Check::nextItem(int section, int number)
 {
     const int before = m_trace.position();
