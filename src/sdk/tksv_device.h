@@ -3,7 +3,7 @@
  * choice between a simulated network and a modem. Plug-ins do not use this header.
  *
  * The interface is plain C. All strings are null-terminated and in UTF-8. The rules of tksv.h for
- * results, threads and call-backs also apply here: every function returns 0 on success and a
+ * results, threads and call-backs also apply here. Every function returns 0 on success and a
  * non-zero value on failure, may be called from any thread, and does not wait for the network.
  */
 #ifndef TKSV_DEVICE_H

@@ -107,8 +107,8 @@ public:
 
     // ---- requests
     /// Appends a copy of `cmd` to the queue and sends it if no command is in flight. Returns 0 if
-    /// the command was sent or queued, or 1 if it could not be sent. In the latter case, `*status`
-    /// contains the status reported by the device.
+    /// the command was sent or queued. Otherwise, returns 1, and `*status` contains the status that
+    /// the device has reported, if any.
     int SendUSSDCommand(USSDCmdOrResp cmd, int *status);
     /// Sends the head of the queue to the device. `command` is the string of the head. If the
     /// command is rejected or too long, it is removed from the queue; no signal is emitted, and the

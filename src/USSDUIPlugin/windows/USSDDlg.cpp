@@ -507,8 +507,8 @@ int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *
 }
 
 /// Marks the window as busy and shows the waiting message, which is omitted for a top-up whose
-/// reply appears in a message box. Such a top-up must still make the window busy, because the reply
-/// would otherwise be dropped.
+/// reply appears in a message box. Such a top-up must still make the window busy, because a window
+/// that is not busy drops the reply.
 void USSDDlg::awaitAnswer(_COMPONENT component, bool isSent)
 {
     m_bBusy = true;

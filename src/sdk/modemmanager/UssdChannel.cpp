@@ -354,8 +354,8 @@ Failure UssdChannel::failureOf(const GError &error) const
     return failureOfUssdError(error, context);
 }
 
-/// Cancels our session. Because a cancellation ends any open session, including that of another
-/// program, a running call is cancelled only after it has been confirmed: the daemon has had enough
+/// Cancels our session. A cancellation ends any open session, including that of another program. A
+/// running call is therefore cancelled only after it has been confirmed: the daemon has had enough
 /// time to refuse it, and the session has become active and is still active. Until then, the
 /// channel waits for a state change or for the end of the call. This may take a long time if polkit
 /// prompts the user.

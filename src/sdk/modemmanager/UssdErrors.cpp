@@ -120,8 +120,8 @@ bool isInProgress(const GError &error)
     return isCoreError(error, MM_CORE_ERROR_IN_PROGRESS);
 }
 
-/// Returns true if the policy denied the call, or if polkit is missing or does not respond. In
-/// these last two cases, ModemManager reports MM_CORE_ERROR_FAILED.
+/// Returns true if the policy denied the call, or if polkit is missing or does not respond. Without
+/// polkit, ModemManager reports MM_CORE_ERROR_FAILED.
 bool isNotPermitted(const GError &error)
 {
     const bool lacksPolkit =
