@@ -22,8 +22,8 @@ public:
                    bool waitsForAnswer);
     /// Records that the session has ended without a reply.
     void end();
-    /// Discards the recorded walk. Call this function if the walk has failed or if the SIM has been
-    /// replaced.
+    /// Discards the recorded walk. Call this function if a command has failed or if the SIM has
+    /// been replaced.
     void forget();
 
     /// Returns the recorded walk if the session has ended. Otherwise, or if no choice was recorded,

@@ -192,7 +192,7 @@ Outcome Conversation::send(const std::string &text)
 }
 
 /// Waits for the response and returns the outcome. The time limit starts again whenever the request
-/// starts or stops waiting for its turn. Stops waiting if ModemManager does not respond.
+/// starts or stops waiting for another program. Stops waiting if ModemManager does not respond.
 Outcome Conversation::await(Clock::time_point start)
 {
     Clock::time_point end = start + m_timeout;

@@ -190,7 +190,7 @@ void BackendChoice::startWatch()
     m_isWatching = true;
 }
 
-/* ---- called from the watch's thread ------------------------------------------------------ */
+/* ---- called from the thread of ModemWatch ------------------------------------------------ */
 
 void BackendChoice::watchChanged()
 {

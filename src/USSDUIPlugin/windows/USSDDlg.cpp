@@ -547,9 +547,9 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
 }
 
 /// Shows the reply to a top-up. A message box is not opened directly but later from the event loop.
-/// While a reply is being reported, an open message box would block the pipeline. While a rejected
-/// command is being reported, the key handler of the input field is running, and the host could
-/// delete the field before the user closes the message box.
+/// While a reply is being reported, an open message box would delay the next command. While a
+/// rejected command is being reported, the key handler of the input field is running, and the host
+/// could delete the field before the user closes the message box.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();

@@ -182,7 +182,7 @@ void ModemManagerBackend::post(std::function<void()> task)
     m_watch.thread().post([self = shared_from_this(), task = std::move(task)] { task(); });
 }
 
-/* ---- functions that run on the watch's thread -------------------------------------------- */
+/* ---- functions that run on the thread of ModemWatch -------------------------------------- */
 
 /// Sends the request. If ModemManager has not reported its modems yet, stores the request until it
 /// has. The request fails if there is no usable modem, or if the modem was lost after the request

@@ -62,14 +62,14 @@ private:
     ModemWatch &m_watch;
     const std::string m_equipmentId;
 
-    // The following members are used only on the watch's thread.
+    // The following members are used only on the thread of ModemWatch.
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
     bool m_wasRegistered = false;     // true if the modem in use has been registered at least once
     bool m_isModemRemoved = false;    // true if the modem was removed and not replaced by another
     std::optional<Request> m_waiting; // held back until ModemManager has reported its modems
 
-    // m_info, m_isInfoKnown and m_lostModemCount are written only by the watch's thread. This
+    // m_info, m_isInfoKnown and m_lostModemCount are written only by the thread of ModemWatch. This
     // thread can therefore read them without locking the mutex.
     mutable std::mutex m_mutex; // guards all members below
     DeviceInfo m_info;

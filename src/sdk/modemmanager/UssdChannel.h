@@ -46,8 +46,8 @@ public:
     /// `equipmentId` identifies the modem's queue, which all programs of the user share.
     UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener);
 
-    /// Sets the time limit for waiting for a turn. It applies to later requests to all modems. May
-    /// be called from any thread.
+    /// Sets how long a request may wait for other programs of the user. Applies to later requests
+    /// to all modems. May be called from any thread.
     static void setTurnLimit(std::chrono::milliseconds limit);
 
     /// Sets the proxy for the USSD interface, which may replace an earlier proxy. Null means that
