@@ -216,8 +216,8 @@ void USSDDlg::initStatusBoxes()
     m_pBalanceStatusTextEdit->setLines(BALANCE_LINES);
     m_pActivateStatusTextEdit->setLines(ACTIVATE_LINES);
     m_pMSISDNStatusTextEdit->setLines(MSISDN_LINES);
-    // Initially show the error message. A command that is sent replaces it. If no command can be
-    // sent, it remains visible and is the only report of the failure.
+    // Initially show the error message. Sending a command replaces the message. If no command can
+    // be sent, the message remains visible and is the only report of the failure.
     m_pBalanceStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pActivateStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pMSISDNStatusTextEdit->showText(text("USSD_CODE_FAILED"));

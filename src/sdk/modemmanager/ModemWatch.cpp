@@ -10,8 +10,8 @@ namespace Tksv
 namespace
 {
 
-/// The maximum number of attempts to create the MMManager. When ModemManager starts, it acquires
-/// its bus name shortly before it exports its objects.
+/// The maximum number of attempts to create the MMManager. An attempt fails while ModemManager is
+/// starting up, because it acquires its bus name shortly before it exports its objects.
 const int START_UP_TRIES = 50;
 const std::chrono::milliseconds START_UP_PAUSE(100);
 

@@ -50,8 +50,8 @@ struct Rule {
     std::size_t maxDigits = MAX_CODE_DIGITS;
     std::string wrongDigits;
 
-    /// The change to the balance: `credit` plus `creditDigits` (1, 0 or -1) times the value of the
-    /// digits. `creditDigits` refers to whole currency units.
+    /// The change to the balance: `credit` plus `creditDigits` (1, 0 or -1) times the number that
+    /// %s matches. This number is an amount in whole currency units.
     Amount credit = 0;
     int creditDigits = 0;
     std::string notEnough; // the reply if the balance is too low
