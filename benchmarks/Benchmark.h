@@ -18,7 +18,7 @@ typedef std::function<double()> Measurement;
 
 const char MICROSECONDS[] = "µs";
 
-/// The limit for comparisons that cannot fail.
+/// Stands for "no limit". A comparison with this value is reported but never fails.
 const double NO_LIMIT = 0;
 
 /// The name, the unit and the limit of a comparison between a subject and its baseline.

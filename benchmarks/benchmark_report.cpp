@@ -67,7 +67,8 @@ QList<Row> readRows(const QString &path)
     return rows;
 }
 
-/// Returns the value with three significant digits. An exponent is used only for extreme values.
+/// Returns the value with as many decimals as three significant digits require, but at most five.
+/// Never uses an exponent.
 QString number(double value)
 {
     const int digits = value > 0 ? 2 - static_cast<int>(std::floor(std::log10(value))) : 0;

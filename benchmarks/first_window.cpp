@@ -1,7 +1,8 @@
 /*
- * A library that is preloaded (LD_PRELOAD) into a program. When the first window has been painted,
- * it writes a line to the file descriptor $FIRST_WINDOW_FD and ends the program. The line contains
- * the time of the monotonic clock in nanoseconds and the peak resident set size in kB.
+ * A library that is preloaded (LD_PRELOAD) into a program. When the program has painted its first
+ * window, the library writes a line to the file descriptor $FIRST_WINDOW_FD and ends the program.
+ * The line contains the time of the monotonic clock in nanoseconds and the peak resident set size
+ * in kB.
  */
 #include <cstdio>
 #include <cstdlib>

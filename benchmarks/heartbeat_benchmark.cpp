@@ -19,7 +19,7 @@ namespace
 
 const int CHARACTERS = 10000;
 const double MAY_BE_LATE = 100; // in milliseconds
-// The number of heartbeats without a change after which the window is considered idle.
+// If the text has not grown for this number of heartbeats, the window is considered idle.
 const int QUIET_BEATS = 30;
 const int RUNS = 5;
 
@@ -35,7 +35,7 @@ class Heart
 {
 public:
     /// Runs the work in the event loop, waits until the window is idle, and returns the longest
-    /// interval in milliseconds.
+    /// interval in milliseconds. `size` returns the current length of the text in the window.
     static double longestPause(const std::function<void()> &work, const std::function<int()> &size)
     {
         Heart heart(work, size);

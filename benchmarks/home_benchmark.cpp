@@ -38,9 +38,9 @@ AccountEntry entryAt(const QDateTime &time)
     return entry;
 }
 
-/// Fills the database with entries from the last year. The schema and one entry come from the
-/// program itself. The other entries are copies of this entry, because each of them would otherwise
-/// be a transaction that waits for the disk.
+/// Fills the database with `count` entries. The program itself creates the schema and one entry per
+/// day of the last year. A single SQL statement then adds copies of the latest entry, because
+/// the program would need a transaction for each entry, which waits for the disk.
 void fill(const QString &file, int count)
 {
     {

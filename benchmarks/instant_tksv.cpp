@@ -1,8 +1,8 @@
 /*
  * A device SDK that does as little as possible: it copies the request and replies immediately from
  * its own thread. A queued signal passes the request to this thread, as in the bare round trip of
- * pipeline_benchmark. The difference between the two round trips is therefore the cost of the
- * pipeline.
+ * pipeline_benchmark. The difference between a command's round trip and the bare round trip is
+ * therefore the cost of the pipeline.
  */
 #include "instant_tksv.h"
 

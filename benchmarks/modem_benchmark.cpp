@@ -63,7 +63,7 @@ const int IDLE_SECONDS = 60;
     std::exit(1);
 }
 
-/// The plug-in's pipeline, used from the GUI thread.
+/// Sends commands through the plug-in's USSDLogic and waits for the replies on the GUI thread.
 class Pipeline : public QObject
 {
     Q_OBJECT
@@ -231,7 +231,7 @@ void compareFirstReplies()
         [&] { return millisecondsOf(dashboard); }, [] { return millisecondsOf(TOOL); });
 }
 
-/// The number of waits that the threads of a process have started, and the CPU time of the threads.
+/// How often the threads of a process have started to wait, and the CPU time that they have used.
 struct Activity {
     double waits = 0;
     double cpuMilliseconds = 0;
@@ -263,7 +263,7 @@ Activity activityOf(pid_t process)
     return sum;
 }
 
-/// Measures both programs simultaneously after they have become idle.
+/// Compares the idle dashboard with an idle empty window. Both programs run simultaneously.
 void compareIdling()
 {
     const pid_t ours = spawn({USSD_DASHBOARD});

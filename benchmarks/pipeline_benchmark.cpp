@@ -1,8 +1,9 @@
 /*
- * Measures the round trip of a command through the pipeline, and the cost of a long queue. The
- * program is built both with log lines, which a handler discards, and without log lines.
+ * Measures the round trip of a command through the pipeline, which consists of the plug-in's
+ * command queue and the device SDK, and the cost of a long queue. The program is built both with
+ * log lines, which a handler discards, and without log lines.
  *
- * For the first measurement, all threads are bound to one core. For the second measurement, the GUI
+ * The round trip is measured twice: first, all threads are bound to one core; then, the GUI
  * thread and the device's thread are bound to different cores. Without these bindings, the threads
  * would share a core only in some rounds, and waking up a sleeping core takes longer than
  * everything else.
@@ -53,7 +54,7 @@ private:
     int m_missing = 0;
 };
 
-/// An endpoint of a bare queued connection.
+/// One of the two objects that exchange signals through queued connections, without the pipeline.
 class Echo : public QObject
 {
     Q_OBJECT
@@ -96,7 +97,7 @@ private:
     Counter m_counter;
 };
 
-/// Constructs the pipeline and deletes it when the object is destroyed.
+/// Constructs the USSDLogic singleton, and deletes it when the object is destroyed.
 class Pipeline
 {
 public:
@@ -137,8 +138,8 @@ public:
         m_counter.await(length);
     }
 
-    /// Disarms the time-out with a reply to the command that was cleared. Must be called after the
-    /// queue has been cleared.
+    /// Lets the device reply to the command that was in flight when the queue was cleared. This
+    /// reply disarms the time-out. Must be called after the queue has been cleared.
     void settle() { instant_tksv_settle(); }
 
 private:
@@ -161,9 +162,9 @@ double eachOf(int times, const Trip &trip)
            times;
 }
 
-/// Measures a step with queues of this length and returns the time per command in microseconds. For
-/// short queues, the step is repeated until the total number of commands equals that of the long
-/// queue.
+/// Measures a step (filling, draining or clearing the queue) with queues of this length and returns
+/// the time per command in microseconds. For short queues, the step is repeated until the total
+/// number of commands equals that of the long queue.
 double stepOfQueue(int length, const std::function<void()> &before,
                    const std::function<void()> &step, const std::function<void()> &after)
 {

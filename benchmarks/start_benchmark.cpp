@@ -50,7 +50,8 @@ std::string readAll(int descriptor)
     return text;
 }
 
-/// Returns the environment of this process, extended so that the measuring library is preloaded.
+/// Returns the environment of this process, extended so that the measuring library is preloaded and
+/// writes its results to `descriptor`.
 std::vector<std::string> watchedEnvironment(int descriptor)
 {
     char **end = environ;

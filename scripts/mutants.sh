@@ -37,8 +37,8 @@ chosen()
     return 1
 }
 
-# Copies the files of the working tree, so that the faults never change the original files. Only
-# files that differ are copied. If a killed run has left a fault in a file, copying restores the file.
+# Copies the files of the working tree to $tree, where the faults are applied. Only files that
+# differ are copied. If a killed run has left a fault in a copy, this restores the copy.
 copy_tree()
 {
     local path
@@ -84,7 +84,7 @@ replace()
 }
 
 # Applies the fault $name, which replaces $old with $new in $file. Runs the tests in $tests first. If
-# these tests pass, also runs all other tests.
+# these tests pass, also runs all tests with the labels plugin and hostile.
 try_fault()
 {
     local source result=0 pattern

@@ -35,8 +35,8 @@ done
 output=$(realpath -m "${1:-build/packages}")
 NOBODY='The USSD UI plug-in authors <nobody@ussd-ui-plugin.invalid>'
 
-# set_maintainer FOLDER: replaces the placeholder in the source tree in FOLDER with the maintainer in
-# the environment.
+# set_maintainer FOLDER: replaces the placeholder for the maintainer in the source tree in FOLDER
+# with DEBFULLNAME and DEBEMAIL, if DEBEMAIL is set.
 set_maintainer()
 {
     [ -n "${DEBEMAIL:-}" ] || return 0
@@ -74,7 +74,8 @@ build_in()
     cp -a "$snapshot" "$1/source"
     [ -z "$version" ] || add_version "$1/source"
     set_maintainer "$1/source"
-    # The packages contain the modification times of the files, which differ between checkouts.
+    # Give all files the time of the changelog entry. The packages contain the modification times,
+    # which differ between checkouts.
     find "$1/source" -exec touch --no-dereference \
         --date="@$(cd "$1/source" && dpkg-parsechangelog --show-field Timestamp)" {} +
     (cd "$1/source" && DEB_BUILD_OPTIONS="parallel=$(nproc) terse" dpkg-buildpackage --build=binary --no-sign)
@@ -90,7 +91,7 @@ build_differently()
     )
 }
 
-# compare FOLDER: compares the packages in FOLDER with those in $work.
+# compare FOLDER: fails unless the packages in FOLDER are identical to those in $work.
 compare()
 {
     local package differences=0

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Tests the Debian packages in a new minimal Debian 12 system, which it creates with debootstrap:
-# installs all packages with one command, runs the programs, builds the examples against the -dev
-# packages, upgrades to the next version with a changed configuration file, and purges the packages.
+# Tests the Debian packages in a minimal Debian 12 system, which it creates with debootstrap. The
+# script installs all packages with one command, runs the programs, and builds the examples against
+# the -dev packages. It then changes a configuration file, upgrades to a later version, and purges
+# the packages.
 # Prints one line for each step and stops at the first error. Must be run as root. CI does not run
 # this script.
 #     scripts/package_trial.sh [PACKAGES [FOLDER]]
@@ -97,8 +98,8 @@ try_examples() {
     shows '^Received: Echo simulation' env LD_LIBRARY_PATH=device/build host/build/minimal-host --once '*100#'
 }
 
-# make_next_version: builds packages of a later version from the existing packages, and adds a line
-# to each of the two configuration files.
+# make_next_version: builds packages of a later version from the existing packages. Adds a line to
+# each configuration file in them, so that the upgrade meets files changed by both sides.
 make_next_version() {
     local package tree=$folder/tree version
     rm -rf "$system/next"

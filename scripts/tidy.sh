@@ -58,7 +58,8 @@ look_at()
 export -f look_at run_moc
 export COMPILATIONS MOC SCOPE
 
-# verify_scope: requires that clang-tidy finds faults in a source file and in a header of our own.
+# verify_scope: fails unless clang-tidy finds the deliberate faults in a source file and its header.
+# This proves that the plug-in excludes only system headers.
 verify_scope()
 {
     local folder=build/tidy/planted/src said

@@ -1,6 +1,6 @@
-// A plug-in for clang-tidy that excludes the headers of the system, which scripts/tidy.sh builds.
+// A plug-in for clang-tidy that excludes system headers from the search. scripts/tidy.sh builds it.
 // clang-tidy 14 searches the declarations of all headers, and then discards the diagnostics for
-// those of the system, most of which belong to Qt. Excluding these headers from the search halves
+// system headers, most of which belong to Qt. Excluding these headers from the search halves
 // the time, and does not change the diagnostics.
 #include <clang/AST/ASTConsumer.h>
 #include <clang/AST/ASTContext.h>

@@ -31,7 +31,8 @@ while [ $# -gt 0 ]; do
 done
 [ -z "$new" ] || printf '<TS language="%s">\n</TS>\n' "$new" >"translations/$new.ts"
 
-# Prints the keys that the code and the files of the plug-in use, as "context key".
+# Prints the keys that the code and the files of the plug-in use, one per line, each after its
+# context, for example "Dashboard PIN_CAPTION".
 used_keys() {
     grep -rhoE --include='*.cpp' --include='*.h' '"(IDS|IDC|USSD_CODE)_[A-Z0-9_]+"' src |
         tr -d '"' | sed 's/^/USSDUIPlugin /'
@@ -46,8 +47,8 @@ used_keys | sort -u | CHECK=$check perl -e '
     sub content { open(my $file, "<", $_[0]) or die "$_[0]: $!\n"; local $/; return <$file>; }
     sub report { print "$_[0]\n"; $wrong = 1; }
 
-    # Calls the function for each message with its context, its key and the text of the message.
-    # Replaces the message with the result.
+    # Calls $function for each <message> element in $text, with the context, the key and the
+    # element. Replaces the element with the result.
     sub each_message {
         my ($text, $function) = @_;
         my $context = "";

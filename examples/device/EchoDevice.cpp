@@ -1,5 +1,5 @@
 /*
- * The echo device: another device SDK library, implemented in a single file. It simulates a device
+ * The echo device: an example of a device SDK library in a single file. It simulates a device
  * without a network and replies to each code with the code itself, for example "Echo simulation:
  * *100#". It has no menus and does not support short messages. docs/host-integration.md specifies
  * the guarantees that a device SDK library must provide.

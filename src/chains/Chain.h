@@ -12,9 +12,9 @@ namespace Chains
 const std::size_t MOST_STEPS = 20;
 
 /**
- * A walk through the menus that a code opens: the code, and the choice made in each menu. Each step
- * contains the text of its menu line, so that the key is sent only if the menu still offers the
- * same choice.
+ * A named series of menu choices that can be repeated: the code that opens the first menu, and the
+ * choice made in each menu. Each step contains the key to send, such as "2", and the text of its
+ * menu line. The key is sent only if the menu still shows the same text for it.
  */
 struct Chain {
     std::string name;

@@ -6,7 +6,7 @@
 namespace Chains
 {
 
-/** The next step of a run, which depends on the network's most recent reply. */
+/** What a program that runs a chain must do next, depending on the network's most recent reply. */
 struct ChainStep {
     enum class Verdict {
         Send,    // the menu still offers the choice; send `key`
@@ -25,7 +25,7 @@ struct ChainStep {
 };
 
 /**
- * Decides for each reply whether the next step of a chain may be sent. A step may be sent only if
+ * Decides for each reply whether the key of a chain's next step may be sent. It may be sent only if
  * the network is waiting for an answer to a menu in which the key still has the text that is stored
  * in the chain. The class itself does not send anything.
  */

@@ -57,8 +57,8 @@ bool readChoice(const std::string &line, Choice &choice)
     return true;
 }
 
-/// Returns true if the key may only follow all other keys of a menu. Such a key usually opens the
-/// previous menu or ends the session.
+/// Returns true if the key belongs to the end of a menu, where the order of the keys is arbitrary.
+/// Such a key usually opens the previous menu or ends the session.
 bool isLastKey(const std::string &key)
 {
     return key == "0" || key == "00" || key == "*" || key == "#";

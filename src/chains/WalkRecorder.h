@@ -7,9 +7,10 @@ namespace Chains
 {
 
 /**
- * Records the walk that the user takes through the menus that a code opens. Only choices are
- * recorded. An answer that is not a choice may be a PIN or a phone number. The recorded walk
- * therefore ends before this answer, and the user must enter the answer each time the chain is run.
+ * Records the user's walk through the menus of the network: the code that opens the first menu, and
+ * the choice made in each menu. An answer that is not a choice may be a PIN or a phone number. The
+ * recorded walk therefore ends before this answer, and the user must enter the answer each time the
+ * chain is run.
  */
 class WalkRecorder
 {
@@ -21,8 +22,8 @@ public:
                    bool waitsForAnswer);
     /// Records that the session has ended without a reply.
     void end();
-    /// Discards the recorded walk. Call this function if the walk has failed or if the SIM has been
-    /// replaced.
+    /// Discards the recorded walk. Call this function if a command has failed or if the SIM has
+    /// been replaced.
     void forget();
 
     /// Returns the recorded walk if the session has ended. Otherwise, or if no choice was recorded,

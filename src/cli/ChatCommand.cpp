@@ -40,8 +40,8 @@ private:
     bool m_isAsked = false; // true if the network is waiting for an answer
 };
 
-/// Reads lines from standard input and sends them until the end of the input. If sending a line
-/// fails, prints the error and continues.
+/// Sends the code on the command line, if any, and then each line of standard input until the end
+/// of the input. If sending a line fails, prints the error and continues.
 void Chat::run()
 {
     const auto &words = m_program.options().words;

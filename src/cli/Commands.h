@@ -8,8 +8,8 @@ class Program;
 
 /*
  * Each of these functions executes a command and returns its exit code. Except for
- * printFavourites(), they may be called only after Program::selectDevice() has succeeded. The exit
- * code is replaced later if a signal has arrived or if writing to standard output has failed.
+ * printFavourites(), they may be called only after Program::selectDevice() has succeeded. main()
+ * replaces the exit code if a signal has arrived or if writing to standard output has failed.
  */
 
 int send(Program &program);

@@ -16,12 +16,13 @@ namespace
 /// The time limit for cancelling a request on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
-/// The difference between the library's and the program's own time limit for waiting for a turn.
-/// The library's limit is longer, so that the program always stops waiting first.
+/// The difference between the library's and the program's own time limit for waiting while another
+/// program uses the modem. The library's limit is longer, so that the program always stops waiting
+/// first.
 const Milliseconds TURN_GRACE(5000);
 
-/// The time for which the program waits for a reply before it starts to observe the device. This
-/// saves a thread of the library if the reply arrives quickly.
+/// The time for which the program waits for a reply before it registers a call-back for changes to
+/// the device. If the reply arrives earlier, the library need not start a thread for the call-back.
 const Milliseconds QUICK_REPLY(100);
 
 /** Passes the response from a thread of the library to the main thread. */
@@ -191,7 +192,7 @@ Outcome Conversation::send(const std::string &text)
 }
 
 /// Waits for the response and returns the outcome. The time limit starts again whenever the request
-/// starts or stops waiting for its turn. Stops waiting if ModemManager does not respond.
+/// starts or stops waiting for another program. Stops waiting if ModemManager does not respond.
 Outcome Conversation::await(Clock::time_point start)
 {
     Clock::time_point end = start + m_timeout;

@@ -27,7 +27,8 @@ public:
     /// Returns true if the device is simulated.
     bool isSimulated() const { return info().backend == TKSV_BACKEND_SIMULATOR; }
 
-    /// Makes all subsequent changes to the device wake `waits`.
+    /// Makes each subsequent change to the device wake the main thread, so that the current wait
+    /// evaluates its condition again.
     void follow();
     /// Waits until the condition is true. Returns false if the time limit expires or a signal
     /// arrives first.

@@ -25,7 +25,8 @@ LineReader::Result LineReader::next(std::string &line, const Waits::Condition &i
 }
 
 /// Moves the first line from the buffer to `line`. The last line of a file does not have to end
-/// with a line feed. Returns false if the buffer does not contain a complete line.
+/// with a line feed, and neither does a line that is longer than LONGEST_LINE. Returns false if the
+/// buffer does not contain a complete line.
 bool LineReader::takeLine(std::string &line)
 {
     const std::size_t end = m_buffer.find('\n');

@@ -26,7 +26,7 @@ struct NetworkText {
 class NetworkTexts
 {
 public:
-    /// Every message wakes `waits`, which must outlive the object.
+    /// Every message ends the current sleep of `waits`, which must outlive the object.
     explicit NetworkTexts(Waits &waits);
     ~NetworkTexts();
     NetworkTexts(const NetworkTexts &) = delete;

@@ -125,8 +125,8 @@ int Program::fail(TKSV_Failure reason, const std::string &message)
 }
 
 /// Sends the string immediately: the device is not checked first, because the library holds a
-/// request until it has found the modem. If the command could not be sent, tries to solve the
-/// problem and sends it again.
+/// request until it has found the modem. If a code could not be sent, tries to solve the problem
+/// and sends the code again.
 int Program::send(Conversation &conversation, const std::string &text, Kind kind)
 {
     conversation.onTurnAwaited([this] { m_output.notice(AWAITING_TURN); });

@@ -13,7 +13,8 @@ namespace Cli
 {
 
 /**
- * The state that all commands share: the command line, the waits, the output and the device.
+ * The objects that all commands share: the command-line options, the Waits object, the output and
+ * the device.
  */
 class Program
 {
@@ -45,10 +46,10 @@ public:
 
     enum class Kind { Code, Answer };
 
-    /// Sends the string, prints the reply or the failure, and returns the exit code. Before it
-    /// sends a code, the function waits for the modem and, with --end-foreign-session, ends the
-    /// session of another program. Answers are never repeated, because an answer without its menu
-    /// would be sent as a code.
+    /// Sends the string, prints the reply or the failure, and returns the exit code. If a code
+    /// could not be sent, waits for the modem or, with --end-foreign-session, ends the session of
+    /// another program, and sends the code again. Answers are never repeated, because an answer
+    /// without its menu would be sent as a code.
     int send(Conversation &conversation, const std::string &text, Kind kind);
     /// Returns the newest reply, in UTF-8.
     const std::string &lastReply() const { return m_lastReply; }

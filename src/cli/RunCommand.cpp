@@ -20,7 +20,7 @@ const char PLACE[] = "%s";              // the placeholder for a number in a cod
 const std::size_t SHORTEST_NETWORK = 5; // minimum number of digits of MCC and MNC together
 const char NUMBER_CHARACTERS[] = "0123456789+*";
 
-/** A favourite and its home network. If the favourite is a code, the chain has no steps. */
+/** A favourite or a chain, and its home network. A favourite that is a code has no steps. */
 struct Item {
     Chain chain;
     std::string network;

@@ -21,7 +21,7 @@ QString buttonText(const QString &key)
 }
 
 /// Returns the screen rectangle in which MoveCentre() centres the widget: the frame of the main
-/// window if it is visible, otherwise the available area of the screen.
+/// window if it is visible and not minimized, otherwise the available area of the screen.
 QRect surroundings(const QWidget *widget, const QRect &screen)
 {
     const QWidget *mainWindow = HostCore::HostState::mainWindow();

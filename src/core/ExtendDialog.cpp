@@ -31,7 +31,7 @@ public:
 
 } // namespace
 
-// The widget type is ignored, because this host has only one frame style.
+// The last argument, the widget type, is ignored, because this host has only one frame style.
 ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int) : QDialog(parent, flags)
 {
     QVBoxLayout *layout = new QVBoxLayout(this);

@@ -10,8 +10,8 @@ namespace HostCore
 
 /**
  * Keeps a frame inside the screen. If a frame would be larger than the screen, for example because
- * of a large font, it is reduced to the size of the screen and its content is moved into a scroll
- * area.
+ * of a large font, FrameFit reduces the frame to the size of the screen. It moves the content of
+ * the frame into a scroll area.
  */
 class FrameFit : public QObject
 {

@@ -48,7 +48,8 @@ public:
 
     const QList<Entry> &entries() const { return m_entries; }
     const QList<Mistake> &mistakes() const { return m_mistakes; }
-    /// Returns the text, or an empty string if the file contains no text for this language and key.
+    /// Returns the operator's text for the key in this language, or an empty string if the file
+    /// contains none.
     QString text(const QString &language, const QString &key) const;
 
 private:

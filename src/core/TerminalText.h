@@ -7,10 +7,10 @@
 namespace HostCore
 {
 
-/// Returns a copy of the text that is safe to print to a terminal. Line endings and tabs are kept.
-/// All other control characters (C0, DEL, C1) and all characters that control the text direction
-/// are replaced with U+FFFD. This prevents a network reply from controlling the terminal or
-/// disguising its own contents.
+/// Returns a copy of the text that is safe to print to a terminal. All kinds of line endings become
+/// line feeds, and tabs are kept. All other control characters (C0, DEL, C1) and the directional
+/// formatting characters (U+202A to U+202E, U+2066 to U+2069) are replaced with U+FFFD. This
+/// prevents a network reply from controlling the terminal or disguising its own contents.
 Q_DECL_EXPORT QString terminalText(const QString &text);
 
 /// Writes terminalText(text) and a line feed to standard output, in UTF-8. May be called from any

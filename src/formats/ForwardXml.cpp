@@ -18,9 +18,9 @@ const qint64 BLOCK_SIZE = qint64(64) * 1024;
 const char DECLARES_ENTITIES[] = "The document declares entities, which are not supported.";
 const char ODD_ENCODING[] = "The encoding of the document is not supported.";
 
-// Prefixes of the encodings in which an ASCII character is always represented by its own code,
-// without hyphens and underscores. In other encodings, such as UTF-7 and ISO-2022-JP, an entity
-// declaration may consist of other bytes.
+// The names of the supported encodings begin with these strings, in lower case and without hyphens
+// and underscores. In these encodings, an ASCII character is always represented by its own code. In
+// other encodings, such as UTF-7 and ISO-2022-JP, an entity declaration may consist of other bytes.
 const char *const ENCODINGS[] = {"utf8",      "utf16",   "utf32",    "ucs2",  "iso10646ucs2",
                                  "usascii",   "ascii",   "iso8859",  "latin", "cp125",
                                  "cp866",     "windows", "ibm866",   "koi8",  "tis620",
@@ -68,9 +68,9 @@ bool hasUsualEncoding(const QByteArray &start)
     return false;
 }
 
-/// Returns an error message if the device declares entities, or a null pointer. Restores the
-/// position. The function searches the raw bytes, because parsing the document would already expand
-/// parameter entities.
+/// Returns an error message if the document declares entities or has an unsupported encoding,
+/// otherwise a null pointer. Restores the position of the device. The function searches the raw
+/// bytes, because parsing the document would already expand parameter entities.
 const char *faultIn(QIODevice &device)
 {
     const qint64 start = device.pos();

@@ -10,8 +10,8 @@ namespace Formats
 {
 
 /*
- * The contents of USSDPluginConfig.xml as plain values, and the functions that read them. They do
- * not depend on files or windows. Each function reads forward from the current position of the
+ * The contents of USSDPluginConfig.xml as plain values, and the functions that read them. This code
+ * does not depend on files or windows. Each function reads forward from the current position of the
  * reader. A value is false, 0 or an empty string if it is missing, invalid, or preceded by an error
  * in the document.
  */

@@ -131,8 +131,8 @@ int Reader::number(const char *name, const QString &text)
     return value;
 }
 
-/// Returns the value of the attribute even if it is out of range, because geometry() limits the
-/// value when the widget is placed.
+/// Returns the value of the attribute. A value that is out of range is reported but not changed,
+/// because geometry() limits it when the widget is placed.
 int Reader::pixels(const char *name, int least)
 {
     const int value = numberAttribute(name);

@@ -17,8 +17,8 @@ namespace Formats
 
 /*
  * The layout of the USSD-SMS window and the commands of its services, and the functions that read
- * them from the configuration file. They do not depend on files or windows. An invalid value is
- * dropped or replaced, and a complaint is added to SmsLayout::complaints.
+ * them from the configuration file. This code does not depend on files or windows. An invalid value
+ * is dropped or replaced, and a complaint is added to SmsLayout::complaints.
  */
 
 /** The size of the window in pixels, as specified in the file. */

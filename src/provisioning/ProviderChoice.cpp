@@ -111,9 +111,9 @@ QList<Provider> begun(const QList<Provider> &providers, const QString &simName)
 }
 
 /// Uses the name stored on the SIM to narrow down the candidates. If this name only starts with a
-/// candidate's name, the SIM may belong to a virtual operator. If it does not match at all, the
-/// operator may be missing from the database. The user must choose in both cases, unless there is
-/// only one candidate and its name is similar.
+/// candidate's name, the SIM may belong to a virtual operator, so the user must choose unless there
+/// is only one candidate. If the name matches no candidate, the operator may be missing from the
+/// database, and the user must always choose.
 ProviderChoice proposed(const QList<Provider> &candidates, const QString &simName)
 {
     if (comparable(simName).isEmpty())

@@ -39,11 +39,14 @@ struct ProviderChoice {
 
 /// Returns the operators that match the query.
 ///
-/// The selected name and the country must match. If no name is selected, the network must match as
-/// well; otherwise, the network is used only to distinguish several candidates. The SIM's name
-/// selects a candidate with the same name. If the SIM's name only starts with a candidate's name,
-/// for example "Telekom.de" with "Telekom", the other candidates are discarded, but the user must
-/// still choose. If the SIM's name does not match any candidate, all candidates are kept.
+/// The selected name and the country must match. If a name is selected, the network is used only to
+/// distinguish several candidates, and the SIM's name is ignored.
+///
+/// If no name is selected, the network must match as well. The SIM's name then selects a candidate
+/// with the same name. If the SIM's name only starts with a candidate's name, for example
+/// "Telekom.de" with "Telekom", the other candidates are discarded. The user must still choose,
+/// unless there was only one candidate. If the SIM's name does not match any candidate, all
+/// candidates are kept, and the user must choose even if there is only one.
 ProviderChoice chooseProvider(const ProviderDatabase &database, const ProviderQuery &query);
 
 /// Returns a query that selects only this operator from the database. The query contains the

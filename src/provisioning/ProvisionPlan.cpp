@@ -97,8 +97,8 @@ ProvisionPlan Planner::plan()
     return m_plan;
 }
 
-/// Adds all codes to the plan. Returns the first code that is suitable for the account window,
-/// which requires a code with input if `withInput` is true, otherwise a code without input.
+/// Adds all codes to the plan. Returns the first code that is suitable for the account window: one
+/// with a placeholder for the user's input if `withInput` is true, otherwise one without.
 QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool withInput)
 {
     QString first;

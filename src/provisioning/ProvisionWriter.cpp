@@ -51,7 +51,7 @@ bool isOurs(const QString &filesFolder, const QString &name, const ProvisionReco
 }
 
 /// Returns the names of the files that have been modified or added manually. If the record is
-/// damaged, returns all file names.
+/// damaged, returns all file names except that of the link to the plug-in.
 QStringList changedIn(const QString &filesFolder, const ProvisionRecord &record)
 {
     QStringList changed;
@@ -99,7 +99,8 @@ void removeUnfinished(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/** Writes a set of files. The lock is held during the lifetime of the object. */
+/** Writes a set of files. If another process is writing to the same folder, write() waits for it.
+ */
 class Writer
 {
 public:

@@ -50,8 +50,8 @@ Provision readProvision(const QString &folder);
 struct ProvisionOrder {
     QString folder;        // created if necessary
     QString pluginLibrary; // path of the plug-in to which a link is created; empty for no link
-    /// Allows the writer to replace files that have been modified manually. They are kept in their
-    /// folder.
+    /// Allows the writer to replace files that have been modified manually. The modified files are
+    /// kept in their folder.
     bool setChangedAside = false;
 };
 
@@ -69,8 +69,9 @@ struct ProvisionOutcome {
     QString problem;          // error message in English, or an empty string
 };
 
-/// Writes the files of `plan` and activates them unless the result is Current or Refused. If
-/// several processes write to the same folder, they wait for each other.
+/// Writes `files`, which were generated for `plan`, and activates them. If the result is not
+/// Written, the active files are unchanged. If several processes write to the same folder, they
+/// wait for each other.
 ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan &plan,
                                 const ProvisionFiles &files);
 

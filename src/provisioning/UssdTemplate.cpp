@@ -10,8 +10,9 @@ namespace Provisioning
 namespace
 {
 
-/// Returns true if the replacement is unambiguous. If it consists only of dialable characters, as
-/// in "1", it must not occur more than once, because one occurrence might be a part of the code.
+/// Returns true if it is clear which part of the code the user's input replaces. A replacement of
+/// only dialable characters, such as "1", must not occur more than once, because one occurrence
+/// might be a part of the code.
 bool isClear(const ProviderCode &code)
 {
     return !isDialable(code.replacement) || code.code.count(code.replacement) == 1;

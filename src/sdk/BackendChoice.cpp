@@ -180,7 +180,7 @@ void BackendChoice::start(const Device &device)
     m_device = device;
 }
 
-/// Starts the watch. If it is already running, makes it search for modems again, because the
+/// Starts the watch for modems. If it is already running, makes it search again, because the
 /// message bus or ModemManager may have become available.
 void BackendChoice::startWatch()
 {
@@ -190,7 +190,7 @@ void BackendChoice::startWatch()
     m_isWatching = true;
 }
 
-/* ---- called from the watch's thread ------------------------------------------------------ */
+/* ---- called from the thread of ModemWatch ------------------------------------------------ */
 
 void BackendChoice::watchChanged()
 {

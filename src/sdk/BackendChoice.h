@@ -22,7 +22,7 @@ class ModemManagerBackend;
  *
  * Locking: m_switchMutex is held while a backend is replaced. It must be acquired before any lock
  * of the session, the backends and the services. m_mutex must be acquired after all of these locks.
- * The watch's thread acquires only m_mutex.
+ * The thread of ModemWatch acquires only m_mutex.
  */
 class BackendChoice
 {

@@ -118,8 +118,9 @@ bool DeviceSdk::removeDeviceCallback(TKSV_EventCallback callback)
     return m_deviceEvents.remove(keyOf(callback));
 }
 
-/// Adds the call-back and posts the current status for this call-back only. If the status changes
-/// before delivery, the event is dropped, because the change raises its own event.
+/// Adds the call-back. If short messages can be sent, posts this status for this call-back only. If
+/// the status changes before delivery, the event is dropped, because the change raises its own
+/// event.
 void DeviceSdk::addSmsCallback(TKSV_EventCallback callback)
 {
     m_smsEvents.add(keyOf(callback), handlerOf(callback));

@@ -105,7 +105,8 @@ SessionInfo UssdSession::info() const
                        isInCallback() ? m_deliveredRequest : m_request};
 }
 
-/// Returns true if called from the call-back of a reply. Must be called with m_mutex locked.
+/// Returns true if called from the call-back of a reply or of a network-initiated message. Must be
+/// called with m_mutex locked.
 bool UssdSession::isInCallback() const
 {
     return m_deliveryThread == std::this_thread::get_id();

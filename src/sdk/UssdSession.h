@@ -64,7 +64,8 @@ public:
     /// of the request that the reply belongs to.
     Failure lastFailure() const;
     /// Returns the state of the session and the newest accepted request. In the call-back of a
-    /// reply, returns the request that the reply belongs to.
+    /// reply, returns the request that the reply belongs to. In the call-back of a
+    /// network-initiated message, the request is empty.
     SessionInfo info() const;
 
     /// Delivers the backend's reply to a request. Drops the reply if the request is no longer in
@@ -110,8 +111,8 @@ private:
     Failure m_failure; // the failure of the newest request
     unsigned long m_requestCount = 0;
     std::string m_request; // the newest accepted request
-    // The thread that is running the call-back of a reply. If called from this thread,
-    // lastFailure() and info() refer to the request that the reply belongs to.
+    // The thread that is running the call-back of a reply or of a network-initiated message. If
+    // called from this thread, lastFailure() and info() return the two values below.
     std::thread::id m_deliveryThread;
     Failure m_deliveredFailure;
     std::string m_deliveredRequest;

@@ -134,8 +134,8 @@ TKSV_API long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status);
 TKSV_API long TKSV_USSDSrv_Release(int *status);
 
 /**
- * Registers a call-back for responses and for network-initiated messages. `event` is 0, and `data`
- * points to a TKSV_USSDResponse. Registering the same call-back again has no effect.
+ * Registers a call-back for responses and for network-initiated messages. The call-back receives
+ * the event 0 and a TKSV_USSDResponse. Registering the same call-back again has no effect.
  */
 TKSV_API long TKSV_USSDSrv_RegisterUSSDCallback(TKSV_EventCallback callback);
 

@@ -3,7 +3,7 @@
  * choice between a simulated network and a modem. Plug-ins do not use this header.
  *
  * The interface is plain C. All strings are null-terminated and in UTF-8. The rules of tksv.h for
- * results, threads and call-backs also apply here: every function returns 0 on success and a
+ * results, threads and call-backs also apply here. Every function returns 0 on success and a
  * non-zero value on failure, may be called from any thread, and does not wait for the network.
  */
 #ifndef TKSV_DEVICE_H
@@ -167,7 +167,7 @@ typedef struct TKSV_Modes {
     unsigned int preferred; /* the generations that the modem prefers; 0 if none */
 } TKSV_Modes;
 
-/** The network generations of the modem in use. */
+/** The network generations of the modem in use: the current setting and a suggested one. */
 typedef struct TKSV_ModesInfo {
     TKSV_Modes current;   /* the current setting */
     TKSV_Modes withOlder; /* the setting that also allows 2G or 3G; `allowed` is 0 if the modem
@@ -280,7 +280,7 @@ TKSV_API long TKSV_Device_SetTurnLimit(unsigned int milliseconds);
 /**
  * Ends the USSD session that another program has opened on the modem in use. Call this function
  * only at the user's request, because a purchase may be in progress. Fails if there is no such
- * session. The `hasForeignSession` field changes when the session has ended.
+ * session. TKSV_DeviceInfo::hasForeignSession becomes 0 when the session has ended.
  */
 TKSV_API long TKSV_Device_EndForeignSession(void);
 

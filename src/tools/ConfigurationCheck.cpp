@@ -133,8 +133,8 @@ int Check::section(const char *name)
     return passed;
 }
 
-/// Returns the next element with this name. If it is outside the section, adds a finding and
-/// returns -1.
+/// Moves to the next element with this name and returns its index. If it is not a child of the
+/// section, adds a finding, does not move, and returns -1.
 int Check::child(int section, const char *name)
 {
     if (section < 0)
@@ -225,7 +225,8 @@ void Check::paid(const char *name)
     twins(items);
 }
 
-/// Moves to the next item. If it is outside the section, adds a finding and returns false.
+/// Moves to the next item. If it is missing or not a child of the section, adds a finding, does not
+/// move, and returns false.
 bool Check::nextItem(int section, int number)
 {
     const int before = m_trace.position();

@@ -41,8 +41,8 @@ public:
     /// keys are accepted, because the plug-in shows them unchanged.
     void key(int place, const QString &key);
 
-    /// Adds a finding for each unknown element or attribute name. The finding suggests the name
-    /// that was probably intended.
+    /// Adds a finding for each unknown element or attribute name. If there is a similar known name,
+    /// the finding suggests it.
     void names(const KnownNames &known);
 
 private:

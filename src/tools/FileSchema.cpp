@@ -12,7 +12,7 @@ namespace Tools
 namespace
 {
 
-/** How the parts of a rule are combined. */
+/** How the parts of a schema rule are combined; see Rule. */
 enum Combination { InOrder, AnyOrder, OneOf };
 
 /**

@@ -12,8 +12,8 @@ namespace KeyTexts
 {
 
 /// Returns the installed languages that have no translation for the key. The operator's text file
-/// in `folder` is also taken into account. Returns an empty list if the string is not a key, which
-/// consists of capital letters, digits and underscores.
+/// in `folder` is also taken into account. Returns an empty list if the string does not have the
+/// form of a key; see OperatorTexts::isKey().
 QStringList languagesWithout(const QString &key, const QString &folder);
 /// Returns the English string, or an empty string if the plug-in does not have this key.
 QString english(const QString &key);

@@ -54,7 +54,8 @@ QList<int> allNamed(const XmlElements &elements, int section, const char *name)
     return found;
 }
 
-/// Returns the complaint with its line number but without any other numbers.
+/// Returns the complaint with its line number but without any other numbers. Complaints for which
+/// the function returns the same string are combined into one finding.
 QString kindOfComplaint(const QString &complaint)
 {
     const int colon = complaint.indexOf(QLatin1Char(':'));

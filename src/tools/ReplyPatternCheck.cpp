@@ -76,7 +76,8 @@ void checkLine(const ReplyPatternFile::Line &line, QSet<QString> *seen, CheckRep
         checkPattern(line, report);
 }
 
-/// Adds a finding for each line that requires another line which is missing.
+/// Adds a finding for each name in `seen` that has no effect without another, missing name. For
+/// example, "currency" requires "balance".
 void checkCompanions(const QSet<QString> &seen, CheckReport &report)
 {
     const auto needs = [&](QLatin1String name, QLatin1String other) {

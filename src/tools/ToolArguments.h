@@ -25,7 +25,7 @@ struct ToolArguments {
 ToolArguments parseToolArguments(const QStringList &words, const QStringList &switches,
                                  const QStringList &valueOptions);
 
-/// Quotes the text for a shell, so that it forms a single word.
+/// Returns the text quoted for a shell, so that the shell reads it as a single word.
 QString shellWord(const QString &text);
 
 /// Sets the locale of the environment and returns the command-line arguments without the program

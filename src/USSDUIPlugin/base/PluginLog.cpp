@@ -52,7 +52,8 @@ void write(QtMsgType type, const QByteArray &text)
         qWarning("%s", text.constData());
 }
 
-/// Returns "source: function" and the formatted tail, preceded by `stamp` unless it is null.
+/// Returns "source: function" and the formatted tail, preceded by the time string `stamp` unless it
+/// is null.
 QByteArray composed(const char *stamp, const char *source, const char *function, const char *tail,
                     va_list arguments)
 {

@@ -34,8 +34,8 @@ bool isDisguised(const QString &name)
            name.contains(QLatin1Char('\''));
 }
 
-/// Returns true if the tag contains an entity or a number of three or more digits. An entity could
-/// hide such a number or the name of its attribute.
+/// Returns true if the tag may describe a cell that spans many rows or columns. This is the case if
+/// it contains a number of three or more digits, or an entity, which could hide such a number.
 bool maySpanMany(const QString &behind)
 {
     int digits = 0;

@@ -44,9 +44,9 @@ bool isPlain(const QString &text)
     return true;
 }
 
-/// Returns true if the entry may change the appearance of later entries: a tag may remain open, a
-/// style sheet applies to all later entries, and a blank entry is merged with the next one. An
-/// entry with a non-blank caption is never merged.
+/// Returns true if the entry may change the appearance of later entries. A tag may remain open, and
+/// a style sheet applies to all later entries. An entry with a blank caption may be merged with the
+/// next entry.
 bool mayReachOn(const QString &caption, const QString &text)
 {
     return text.contains(QLatin1Char('<')) || !isPlain(caption) || caption.trimmed().isEmpty();

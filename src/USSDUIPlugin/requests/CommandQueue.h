@@ -7,7 +7,8 @@
 
 /**
  * The commands that wait for the device, in FIFO order. The head of the queue is the command in
- * flight.
+ * flight. Before a thread reports the outcome of a command, such as a reply or a time-out, it
+ * claims the head. Only one thread can claim a head, so an outcome is reported only once.
  *
  * The class is not thread-safe. Threads that share a queue must lock a mutex for each call. Because
  * the queue may change between two calls, each head has a unique number, by which threads refer to
@@ -59,8 +60,8 @@ public:
     /// only the head with this number. If the result is Claimed, sets `head` to the head. If the
     /// result is Empty, sets `head.number` to the number of the most recent head.
     Claim claimHead(Head &head, quint64 number = 0);
-    /// Like claimHead(), but does not claim a head that is marked as sent but has not been passed
-    /// to the device yet. In this case, the reply or the time-out belongs to an earlier head, the
+    /// Like claimHead(), except for a head that is marked as sent and has not been passed to the
+    /// device yet. The reply or the time-out then belongs to an earlier head. In this case, the
     /// result is WaitsForHandOver, and `head.number` is set to the number of the previous head.
     Claim claimHeadInFlight(Head &head, quint64 number = 0);
     /// Marks the head as sent and stores it in `head`. Returns false if the queue is empty or if

@@ -37,7 +37,7 @@ struct SmsSendResult {
 };
 
 SmsSendResult smsSendResult(const void *record);
-/// Returns the SMS status, or 0, which is not a valid status, if `record` is null.
+/// Returns the SMS status, or 0 if `record` is null. 0 is not a valid status.
 int smsStatus(const void *record);
 
 } // namespace SdkRecords

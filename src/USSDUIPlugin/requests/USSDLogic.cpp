@@ -277,8 +277,9 @@ void USSDLogic::armReplyTimer(quint64 number)
         m_pTimer->disarm(arming);
 }
 
-/// Wakes the waiting sender and disarms the time-out, unless the time-out belongs to a head after
-/// `lastHead`. Such a head was sent between the claim of the reply and this call.
+/// Wakes the thread that waits in armReplyTimer() for the end of this time-out. Disarms the
+/// time-out unless it belongs to a head after `lastHead`, which was sent between the claim of
+/// `lastHead` and this call.
 void USSDLogic::stopReplyTimer(quint64 lastHead)
 {
     QtCompat::MutexLocker locker(&m_mutexTimeout);
@@ -362,9 +363,9 @@ void USSDLogic::OnTimeOut()
     checkPendingCmds();
 }
 
-/// Wakes the waiting sender and disarms the expired time-out. Returns false if the command of this
-/// time-out has been answered in the meantime. The head is then a different command, which may not
-/// even have been sent.
+/// Wakes the thread that waits in armReplyTimer() and disarms the expired time-out. Returns false
+/// if the command of this time-out has been answered in the meantime. The head is then a different
+/// command, which may not even have been sent.
 bool USSDLogic::stopRunOutTimer()
 {
     const quint64 runOut = m_pTimer ? m_pTimer->runOutArming() : 0;

@@ -107,8 +107,8 @@ public:
 
     // ---- requests
     /// Appends a copy of `cmd` to the queue and sends it if no command is in flight. Returns 0 if
-    /// the command was sent or queued, or 1 if it could not be sent. In the latter case, `*status`
-    /// contains the status reported by the device.
+    /// the command was sent or queued. Otherwise, returns 1, and `*status` contains the status that
+    /// the device has reported, if any.
     int SendUSSDCommand(USSDCmdOrResp cmd, int *status);
     /// Sends the head of the queue to the device. `command` is the string of the head. If the
     /// command is rejected or too long, it is removed from the queue; no signal is emitted, and the
@@ -120,8 +120,8 @@ public:
     /// success, otherwise 1.
     int ReleaseUSSDCommand();
     int releaseUSSDCommand();
-    /// Removes all commands except the prepaid/postpaid queries from the queue, including a command
-    /// in flight.
+    /// Removes all commands from the queue, even the command in flight, but keeps the
+    /// prepaid/postpaid queries.
     static void ClearQueuedCmds();
     /// Removes the commands of the USSD-SMS window from the queue.
     static void ClearUSSDSMSQueuedCmds();
@@ -147,8 +147,8 @@ public:
     static ReplyTimes replyTimes();
 
 signals:
-    // Emitted on the thread that receives the event. Receivers on the GUI thread therefore use
-    // queued connections.
+    // Emitted on the thread that detects the event: a thread of the device SDK or the GUI thread.
+    // Receivers on the GUI thread therefore use queued connections.
     void responseReceived(int iComponent, QString strResponse);
     void SmsSendResult(bool ok, QString number, QString text);
     void CanSendSMS(bool can);

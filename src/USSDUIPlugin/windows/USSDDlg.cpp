@@ -32,8 +32,8 @@ const int BALANCE_LINES = 3;
 const int ACTIVATE_LINES = 3;
 const int MSISDN_LINES = 2;
 
-/// Returns a new child of the window whose object name contains the role. Returns null if there is
-/// not enough memory.
+/// Returns a new child of `dialog` with the object name "USSDUIPlugin_" + `role`. Returns null if
+/// there is not enough memory.
 template <typename Widget>
 Widget *createWidget(QWidget *dialog, const char *role)
 {
@@ -216,8 +216,8 @@ void USSDDlg::initStatusBoxes()
     m_pBalanceStatusTextEdit->setLines(BALANCE_LINES);
     m_pActivateStatusTextEdit->setLines(ACTIVATE_LINES);
     m_pMSISDNStatusTextEdit->setLines(MSISDN_LINES);
-    // If no command can be sent, this message remains visible, because the failure is not reported
-    // anywhere else.
+    // Initially show the error message. Sending a command replaces the message. If no command can
+    // be sent, the message remains visible and is the only report of the failure.
     m_pBalanceStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pActivateStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pMSISDNStatusTextEdit->showText(text("USSD_CODE_FAILED"));
@@ -279,7 +279,8 @@ void USSDDlg::connectWidgets()
             SLOT(OnResponseReceived(int, QString)));
     m_pChargeEdit->installEventFilter(this);
     m_pChargeActivateButton->installEventFilter(this);
-    // The status box has the focus while the input field and the button are disabled.
+    // While the input field and the button are disabled, the status box has the focus and receives
+    // the keys.
     m_pActivateStatusTextEdit->installEventFilter(this);
 }
 
@@ -428,8 +429,8 @@ void USSDDlg::keyPressEvent(QKeyEvent *event)
 }
 
 /// Filters out auto-repeated Return keys. If the user holds Return, only one top-up is sent, even
-/// if a reply enables the button again. For the same reason, a held key does not close a message
-/// box.
+/// if a reply enables the button again. The held key does not close the message box with the reply
+/// either.
 bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
@@ -506,8 +507,8 @@ int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *
 }
 
 /// Marks the window as busy and shows the waiting message, which is omitted for a top-up whose
-/// reply appears in a message box. Such a top-up must still make the window busy, because the reply
-/// would otherwise be dropped.
+/// reply appears in a message box. Such a top-up must still make the window busy, because a window
+/// that is not busy drops the reply.
 void USSDDlg::awaitAnswer(_COMPONENT component, bool isSent)
 {
     m_bBusy = true;
@@ -546,9 +547,9 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
 }
 
 /// Shows the reply to a top-up. A message box is not opened directly but later from the event loop.
-/// While a reply is being reported, an open message box would block the pipeline. While a rejected
-/// command is being reported, the key handler of the input field is running, and the host could
-/// delete the field before the user closes the message box.
+/// While a reply is being reported, an open message box would delay the next command. While a
+/// rejected command is being reported, the key handler of the input field is running, and the host
+/// could delete the field before the user closes the message box.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();

@@ -48,17 +48,17 @@ public:
     /// subscriber's own number if the window shows these components. Does nothing if `type` is
     /// neither prepaid nor postpaid.
     void MyDoModal(PAID_TYPE type);
-    /// Starts the prepaid/postpaid detection if `ask` is true. The result is sent to the host's
-    /// notification service later. On return, the arguments contain the current values of the
-    /// record that is passed to this service. Returns 1, or 0 if the logic object does not exist.
+    /// Starts the prepaid/postpaid detection if `ask` is true. The window later sends a record with
+    /// the result to the host's notification service. On return, the arguments contain the current
+    /// values of this record. Returns 1, or 0 if the logic object does not exist.
     int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask);
     /// Retranslates all visible strings except replies.
     void SetLanguage();
     static QString tr(const QString &key);
 
 public slots:
-    /// Must be called when the outer window is closed. This object may have been deleted when the
-    /// function returns.
+    /// Removes the pending commands and emits clickedcloseButton(). Must be called when the frame
+    /// is closed. A receiver of the signal may delete this object.
     void OnClickedCloseButton();
 
 signals:

@@ -19,8 +19,9 @@ const char *const ADDRESSEES[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
 
 } // namespace
 
-/// Notifies both addressees. A copy of the record ensures that both receive the same values, even
-/// if the host starts another detection or shuts down during the first notification.
+/// Sends the result of the detection to both parts of the host that ADDRESSEES lists. A copy of the
+/// record ensures that both receive the same values, even if the host starts another detection or
+/// shuts down during the first notification.
 void USSDDlg::notifyHost()
 {
     const PrePostRecord record = m_prePostRecord;

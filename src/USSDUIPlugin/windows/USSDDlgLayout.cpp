@@ -72,8 +72,8 @@ void USSDDlg::findPosAndAddElements(int &row)
     }
     setUpGrid();
     hideComponents();
-    // The map sorts the components by position. If two components have the same position, only the
-    // second one is shown.
+    // The map sorts the components by position. If several components have the same position, only
+    // the last of them in COMPONENTS is shown.
     QMap<int, _COMPONENT> places;
     for (_COMPONENT component : COMPONENTS) {
         if (isShown(component))

@@ -369,7 +369,7 @@ void USSDGeneralDlg::OnClickedSendButton()
     if (command.isEmpty())
         return;
     if (sendCommand(command)) {
-        // Unlike after a preset button, the combo box stays enabled here.
+        // The combo box stays enabled. Only a preset button disables it.
         m_pSendButton->setEnabled(false);
         changeAllPreBtnsStatus(false);
         m_pUSSDCmdEdit->setEnabled(false);

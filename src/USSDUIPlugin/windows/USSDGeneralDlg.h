@@ -39,7 +39,8 @@ public:
     void InitDialog(QWidget *parent, WINDOW_MODEL model);
     /// Retranslates all visible strings except the lines of the transcript.
     void SetLanguage();
-    /// Prepares the window for new input before it is shown again.
+    /// Prepares the window before it is shown again. Moves the focus to the input unless the window
+    /// is waiting for a reply, and clears the transcript if the window is modal.
     void ReInitDialog();
     /// Returns the size hint of the layout, or (-1, -1) if the window has not been built yet.
     QSize GetSize();
@@ -47,7 +48,8 @@ public:
     void setProfileFocus();
     void showHideCmdBtn();
     static QString tr(const QString &key);
-    /// Returns the object name of the widget with this role, for use in style sheets.
+    /// Returns the object name of a widget for use in style sheets. `role` is the last part of the
+    /// name, such as "SendButton".
     static QString objectNameOf(const char *role);
 
     bool isShowPreBtns();
@@ -58,8 +60,8 @@ public:
     void changePayBtnsStatus(bool enable);
 
 public slots:
-    /// Must be called when the outer window is closed. This object may have been deleted when the
-    /// function returns.
+    /// Emits clickedcloseButton(). A modal window also stops waiting for a reply. Must be called
+    /// when the frame is closed. A receiver of the signal may delete this object.
     void OnClickedCloseButton();
 
 signals:

@@ -31,8 +31,8 @@ namespace
 const int NO_ENTRY = -1;
 
 /**
- * The position of each fixed widget in m_listWidgets, which is also the position of its control in
- * a group.
+ * The position of each fixed widget in m_listWidgets. The layout file lists the controls of a
+ * service, which describe these widgets, in the same order.
  */
 enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
 
@@ -160,7 +160,7 @@ void CUSSDSMSDlg::logComplaints() const
         USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
 }
 
-/// Connects the window to the logic. Intentionally called only if the file could be read
+/// Connects the window to the logic object. Intentionally called only if the file could be read
 /// completely. A window without a connection does not receive replies. It can send short messages
 /// but no commands.
 void CUSSDSMSDlg::connectLogic()

@@ -47,7 +47,7 @@ public:
 
     /// Builds the window. Must be called only once.
     void InitDialog();
-    /// Reads the layout from the file, and connects the window to the logic if the file is
+    /// Reads the layout from the file, and connects the window to the logic object if the file is
     /// well-formed. The constructor also calls this function.
     void InitConfig();
     /// Reads the layout. Returns false if the reader has no device or if the document is not
@@ -74,7 +74,8 @@ public:
 
     QSize sizeHint() const override;
     static QString tr(const QString &key);
-    /// Returns the object name of the widget with this role, for use in style sheets.
+    /// Returns the object name of a widget for use in style sheets. `role` is the last part of the
+    /// name, such as "SendButton".
     static QString objectNameOf(const char *role);
 
 public slots:
@@ -84,8 +85,8 @@ public slots:
     void OnResponseUSSDSMSReceived(int component, QString text);
     void OnSendResult(bool ok, QString number, QString text);
     void OnCanSendSMS(bool can);
-    /// Must be called when the outer window is closed. This object may have been deleted when the
-    /// function returns.
+    /// Removes the commands of this window from the queue and emits clickedcloseButton(). Must be
+    /// called when the frame is closed. A receiver of the signal may delete this object.
     void OnClickedCloseButton();
 
 signals:
@@ -139,7 +140,8 @@ private:
     QLabel *m_pResultLabel;
     QtCompat::RegExpValidator *m_pValidator;
     QList<QWidget *> m_listWidgets; // labels, input field and button, in the order of Position
-    // Copies of the controls for m_listWidgets. The original group may be replaced.
+    // Copies of the controls that describe m_listWidgets. They remain valid if the layout, which
+    // contains the originals, is read again.
     QList<Formats::CWidgetItemInfo> m_listControls;
     bool m_bBusy;
     bool m_bFocusParked;

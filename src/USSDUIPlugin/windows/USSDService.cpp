@@ -125,8 +125,8 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     return 0;
 }
 
-/// Closes the frames. The host may shut down the plug-in when a frame is closed, so this object may
-/// be deleted in the meantime.
+/// Closes the frames of the windows that depend on the SIM. The host may shut down the plug-in when
+/// a frame is closed, so this object may be deleted in the meantime.
 void CUSSDService::closeFramesOfTheSim()
 {
     const QPointer<USSDExtendDialog> frames[] = {m_pPrepaidFrame, m_pPostpaidFrame,

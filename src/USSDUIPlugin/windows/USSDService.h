@@ -28,7 +28,7 @@ public:
     /// Returns the singleton and creates it on the first call. Returns null if it cannot be
     /// created.
     static CUSSDService *instance();
-    /// Destroys the windows, the logic and the singleton, if it exists.
+    /// Destroys the windows, the logic object and the singleton. Does nothing without a singleton.
     static void Destroy();
     ~CUSSDService() override;
 
@@ -49,7 +49,7 @@ public:
     void FitSize(QRect &rect);
     int Notify(unsigned int event, unsigned int param1, unsigned int param2);
     void unSDKRegisterEvent();
-    /// Deletes the windows, the frames and the logic.
+    /// Deletes the windows, the frames and the logic object.
     void destroyUSSD();
 
     static QString tr(const QString &key);

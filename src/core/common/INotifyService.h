@@ -19,7 +19,8 @@ class INotifyService
 public:
     virtual ~INotifyService() {}
 
-    /// Delivers `message`, such as PluginContract::MESSAGE_PRE_POST_INFO, to `addressee`. The
+    /// Delivers `message`, such as PluginContract::MESSAGE_PRE_POST_INFO, to the part of the host
+    /// with the identifier `addressee`. The
     /// delivery is synchronous. The meaning of the two parameters depends on the message. Returns 0
     /// if the addressee exists, otherwise a non-zero number.
     virtual int Notify(const QString &addressee, unsigned int message, NotifyParam wParam,

@@ -22,8 +22,8 @@ public:
     /// Shows the page as a child of `parent`, a widget of the host. `rect` specifies the position
     /// and size of the page in pixels, in the coordinates of `parent`. Always returns 0.
     virtual int ShowWindow(QWidget *parent, QRect &rect) = 0;
-    /// Shows the page in a separate frame that is modal to its parent. Returns without waiting for
-    /// the user. Returns 1 if the frame was shown, otherwise 0.
+    /// Shows the page in a separate frame that is modal to the host's main window. Returns without
+    /// waiting for the user. Returns 1 if the frame was shown, otherwise 0.
     virtual int DoModal() = 0;
     /// Hides the page that ShowWindow() has shown.
     virtual void Hide() = 0;

@@ -38,8 +38,8 @@ public:
     /// the query was sent, otherwise to 0. In all other cases, the arguments keep their values.
     /// Returns 1 on success, or 0 if the plug-in is not usable.
     virtual int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask) = 0;
-    /// Shows the window `type` in a separate frame that is modal to its parent. Returns without
-    /// waiting for the user. Returns 1 if the frame was shown, otherwise 0.
+    /// Shows the window `type` in a separate frame that is modal to the host's main window. Returns
+    /// without waiting for the user. Returns 1 if the frame was shown, otherwise 0.
     virtual int DoPrePostPaidModal(PAID_TYPE type) = 0;
     /// Shows the general window as a child of `parent`. No window is shown if `type` is not
     /// PAID_TYPE_GENERAL. `rect` specifies the position and size of the window in pixels, in the

@@ -46,9 +46,9 @@ QFrame *makeCard(QWidget *parent = nullptr);
 /// Returns a horizontal line of one pixel.
 QFrame *makeLine(QWidget *parent = nullptr);
 
-/// Shows or hides the widget. Unlike QWidget::setVisible(), does nothing if the widget will be shown
-/// together with its parent anyway. QWidget::setVisible() would lay out the widget with a size that
-/// it does not have yet, which slows down the start of the program.
+/// Shows or hides the widget. Unlike QWidget::setVisible(), does nothing if the widget will be
+/// shown together with its parent anyway. QWidget::setVisible() would lay out the widget with a
+/// size that it does not have yet, which slows down the start of the program.
 void setShown(QWidget *widget, bool isShown);
 
 /// Sets the margins of the layout. They are in pixels at 100 % text size, and adapt to the font

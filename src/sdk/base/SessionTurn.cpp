@@ -177,9 +177,10 @@ bool SessionTurn::openFolder()
     return m_folder >= 0;
 }
 
-/// Creates this program's ticket. The function locks the door file, so that two programs cannot
-/// create the same ticket and no program encounters a ticket that is not locked yet. Returns false
-/// if another program has locked the door file, or if the ticket cannot be created.
+/// Creates this program's ticket. The function locks the door file of the queue, so that two
+/// programs cannot create the same ticket and no program encounters a ticket that is not locked
+/// yet. Returns false if another program has locked the door file, or if the ticket cannot be
+/// created.
 bool SessionTurn::takeTicket()
 {
     if (m_isUnusable || (m_folder < 0 && !openFolder()))

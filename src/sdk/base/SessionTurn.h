@@ -24,8 +24,9 @@ public:
     SessionTurn(const SessionTurn &) = delete;
     SessionTurn &operator=(const SessionTurn &) = delete;
 
-    /// Joins the queue if the program is not in it yet. Returns true if it is the program's turn.
-    /// The function never blocks; call it repeatedly until it returns true.
+    /// Joins the queue if the program is not in it yet. Returns true if it is the program's turn,
+    /// or if the folder is not usable. The function never blocks; call it repeatedly until it
+    /// returns true.
     bool tryEnter();
     /// Leaves the queue. Does nothing if the program is not in the queue.
     void leave();

@@ -27,7 +27,8 @@ inline gpointer asyncDone(AsyncDone done)
     return new AsyncDone(std::move(done));
 }
 
-/// Returns a closure that calls `function` only if the owner still exists at that time.
+/// Returns a function that calls `function`, but does nothing if the owner has been deleted by
+/// then.
 template <typename Owner, typename Function>
 AsyncDone ifAlive(const std::weak_ptr<Owner> &owner, Function function)
 {

@@ -76,8 +76,8 @@ void MainLoopThread::loop()
     g_main_context_pop_thread_default(m_context);
 }
 
-/// Adds the task to a queue that is protected by this class's own mutex. The thread sanitizer
-/// cannot see the locks inside GLib.
+/// Adds the task to a queue that is protected by this class's own mutex, because the thread
+/// sanitizer cannot see the locks inside GLib.
 void MainLoopThread::post(Task task)
 {
     {

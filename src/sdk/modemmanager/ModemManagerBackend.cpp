@@ -182,7 +182,7 @@ void ModemManagerBackend::post(std::function<void()> task)
     m_watch.thread().post([self = shared_from_this(), task = std::move(task)] { task(); });
 }
 
-/* ---- functions that run on the watch's thread -------------------------------------------- */
+/* ---- functions that run on the thread of ModemWatch -------------------------------------- */
 
 /// Sends the request. If ModemManager has not reported its modems yet, stores the request until it
 /// has. The request fails if there is no usable modem, or if the modem was lost after the request
@@ -200,7 +200,7 @@ void ModemManagerBackend::perform(const Request &request, unsigned lostModemCoun
             refusedReply(takesCommands(m_info) ? TKSV_FAILURE_DEVICE_LOST : refusalOf(m_info)));
 }
 
-/// Selects one of the modems that the watch has found. Unless the user has selected a modem, the
+/// Selects one of the modems that ModemWatch has found. Unless the user has selected a modem, the
 /// first registered modem is used until it is lost.
 void ModemManagerBackend::modemsChanged()
 {
@@ -258,7 +258,7 @@ void ModemManagerBackend::adopt(GObjectPtr<MMObject> object)
     m_device = std::make_shared<ModemDevice>(m_watch.thread(), std::move(object), listener);
 }
 
-/// Releases a modem that was unplugged or whose ModemManager has exited. When ModemManager has been
+/// Releases the modem after it was unplugged or ModemManager has exited. When ModemManager has been
 /// restarted, the modem is found again.
 void ModemManagerBackend::loseModem()
 {

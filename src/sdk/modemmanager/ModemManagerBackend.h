@@ -14,15 +14,15 @@ namespace Tksv
 {
 
 /**
- * The backend for modems that ModemManager controls. It runs on the watch's thread. The functions
- * of the Backend interface post tasks to this thread and derive their return values from the
- * DeviceInfo that was published last.
+ * The backend for modems that ModemManager controls. It runs on the thread of ModemWatch. The
+ * functions of the Backend interface post tasks to this thread and derive their return values from
+ * the DeviceInfo that was published last.
  */
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
 public:
     /// Creates a backend for the modem with this identifier. An empty identifier selects the first
-    /// registered modem, or the first modem if none is registered. The watch must outlive the
+    /// registered modem, or the first modem if none is registered. `watch` must outlive the
     /// backend.
     ModemManagerBackend(ModemWatch &watch, std::string equipmentId);
 
@@ -37,8 +37,8 @@ public:
     bool setModes(const TKSV_Modes &modes) override;
     DeviceInfo info() const override;
 
-    /// Updates the backend after a change. Must be called from the watch's thread after every
-    /// change that the watch reports.
+    /// Updates the backend. Must be called from the thread of ModemWatch after every change that
+    /// ModemWatch reports.
     void modemsChanged();
 
 private:
@@ -62,14 +62,14 @@ private:
     ModemWatch &m_watch;
     const std::string m_equipmentId;
 
-    // The following members are used only on the watch's thread.
+    // The following members are used only on the thread of ModemWatch.
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
     bool m_wasRegistered = false;     // true if the modem in use has been registered at least once
     bool m_isModemRemoved = false;    // true if the modem was removed and not replaced by another
     std::optional<Request> m_waiting; // held back until ModemManager has reported its modems
 
-    // m_info, m_isInfoKnown and m_lostModemCount are written only by the watch's thread. This
+    // m_info, m_isInfoKnown and m_lostModemCount are written only by the thread of ModemWatch. This
     // thread can therefore read them without locking the mutex.
     mutable std::mutex m_mutex; // guards all members below
     DeviceInfo m_info;

@@ -10,8 +10,8 @@ namespace Tksv
 namespace
 {
 
-/// The maximum number of attempts to create the manager. A daemon that is starting up acquires its
-/// bus name shortly before it exports its objects.
+/// The maximum number of attempts to create the MMManager. An attempt fails while ModemManager is
+/// starting up, because it acquires its bus name shortly before it exports its objects.
 const int START_UP_TRIES = 50;
 const std::chrono::milliseconds START_UP_PAUSE(100);
 
@@ -85,8 +85,8 @@ void ModemWatch::start()
     m_thread.post([this] { connectToBus(); });
 }
 
-/// Stops the thread. Pending calls are cancelled first, so that an unresponsive daemon cannot delay
-/// the exit of the program.
+/// Stops the thread. Pending calls are cancelled first, so that an unresponsive ModemManager cannot
+/// delay the exit of the program.
 void ModemWatch::stop()
 {
     g_cancellable_cancel(m_cancellable.get());
@@ -134,8 +134,8 @@ void ModemWatch::busConnected(GDBusConnection *bus)
     pingService(START_UP_TRIES);
 }
 
-/// Requests the daemon's version asynchronously. createManager() blocks and is therefore called
-/// only after the daemon has responded. If the daemon is not running, the request fails
+/// Requests ModemManager's version asynchronously. createManager() blocks and is therefore called
+/// only after ModemManager has responded. If ModemManager is not running, the request fails
 /// immediately.
 void ModemWatch::pingService(int triesLeft)
 {
@@ -174,9 +174,9 @@ void ModemWatch::setSilent(bool isSilent)
     m_changed();
 }
 
-/// Creates the manager synchronously. If it were created asynchronously, GLib would use a worker
-/// thread, and the manager's signals would be delivered to the program's main context, which may
-/// not be running. The call does not start the daemon, because this is the system administrator's
+/// Creates the MMManager synchronously. If it were created asynchronously, GLib would use a worker
+/// thread, and the object's signals would be delivered to the program's main context, which may not
+/// be running. The call does not start ModemManager, because this is the system administrator's
 /// decision.
 void ModemWatch::createManager(int triesLeft)
 {

@@ -29,7 +29,7 @@ struct ModemSummary {
  */
 enum class ServiceState { Looking, NoBus, NoService, Running };
 
-/** Tracks ModemManager's modems. All D-Bus communication takes place on the watch's thread. */
+/** Tracks ModemManager's modems. The object owns the D-Bus thread, which makes all D-Bus calls. */
 class ModemWatch
 {
 public:

@@ -19,13 +19,13 @@ const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STA
 /// The time to wait for a state change after a reply. When it has elapsed, the state is queried.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
-/// The time after which a call that is still running can be assumed not to be refused. If another
-/// program has a session, the daemon refuses the call after consulting polkit, which takes a few
-/// milliseconds unless polkit prompts the user.
+/// If a call is still running after this time, the daemon has probably not refused it. The daemon
+/// refuses a call while another program has a session, but only after it has consulted polkit. This
+/// takes a few milliseconds unless polkit prompts the user.
 const std::chrono::milliseconds REFUSAL_LIMIT(150);
 
-/// The interval between two checks of the queue. It is also the time for which the program keeps
-/// its turn after a command.
+/// The interval at which a waiting program checks whether it is its turn to use the modem; see
+/// SessionTurn. It is also the time for which the program keeps its turn after a command.
 const std::chrono::milliseconds TURN_PAUSE(20);
 
 /// The time limit for waiting for a turn, in milliseconds; see TKSV_Device_SetTurnLimit().
@@ -165,7 +165,8 @@ void UssdChannel::endForeignSession()
 
 /* ---- calls to the daemon ----------------------------------------------------------------- */
 
-/// Starts the next call unless a call is running.
+/// Ends the session if this has been requested. Otherwise, starts the next call unless a call is
+/// running.
 void UssdChannel::startNext()
 {
     if (!m_ussd || m_cancelling)
@@ -226,8 +227,8 @@ void UssdChannel::turnTimerElapsed()
         startNext();
 }
 
-/// Reports the request as failed because the time limit for its turn has expired. By now, the
-/// client has stopped waiting, and must not be surprised by a command that is sent later.
+/// Reports the request as failed because the time limit for its turn has expired. A command must
+/// not be sent after its client has stopped waiting for the reply.
 void UssdChannel::missTurn()
 {
     const Request request = *std::exchange(m_next, std::nullopt);
@@ -353,8 +354,8 @@ Failure UssdChannel::failureOf(const GError &error) const
     return failureOfUssdError(error, context);
 }
 
-/// Cancels our session. Because a cancellation ends any open session, including that of another
-/// program, a running call is cancelled only after it has been confirmed: the daemon has had enough
+/// Cancels our session. A cancellation ends any open session, including that of another program. A
+/// running call is therefore cancelled only after it has been confirmed: the daemon has had enough
 /// time to refuse it, and the session has become active and is still active. Until then, the
 /// channel waits for a state change or for the end of the call. This may take a long time if polkit
 /// prompts the user.

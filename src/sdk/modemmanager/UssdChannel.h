@@ -21,9 +21,9 @@ namespace Tksv
 /**
  * The USSD session of one modem.
  *
- * The daemon sends a reply before it updates the session state, but only the state indicates
- * whether the network is waiting for an answer. The channel therefore does not report the reply
- * until the state is no longer "active".
+ * ModemManager (the daemon) sends a reply before it updates the session state, but only the state
+ * indicates whether the network is waiting for an answer. The channel therefore does not report the
+ * reply until the state is no longer "active".
  *
  * All programs on the bus share the session. The session is ours if our call has opened it: while
  * the call is running and, if the reply leaves the session open, until the state changes. If the
@@ -46,8 +46,8 @@ public:
     /// `equipmentId` identifies the modem's queue, which all programs of the user share.
     UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener);
 
-    /// Sets the time limit for waiting for a turn. It applies to later requests to all modems. May
-    /// be called from any thread.
+    /// Sets how long a request may wait for other programs of the user. Applies to later requests
+    /// to all modems. May be called from any thread.
     static void setTurnLimit(std::chrono::milliseconds limit);
 
     /// Sets the proxy for the USSD interface, which may replace an earlier proxy. Null means that
@@ -61,7 +61,7 @@ public:
     bool hasForeignSession() const { return m_owner == Owner::Foreign; }
     /// Returns true if a request is waiting for another program of the same user.
     bool waitsForTurn() const { return m_waitsForTurn; }
-    /// Returns true if no call is running and there is no session to be ended.
+    /// Returns true if no call is running and the channel is not about to end a session.
     bool isSettled() const { return !m_running && !m_cancelWanted && !m_cancelling; }
 
     /// Sends the string. The request replaces the request in flight.

@@ -24,8 +24,8 @@ bool says(const GError &error, const char *text)
     return std::strstr(error.message, text) != nullptr;
 }
 
-/// A call that fails after this time has failed because the modem did not respond: the daemon makes
-/// two attempts and waits 10 s for each.
+/// A call that fails after this time has failed because the modem did not respond: ModemManager
+/// makes two attempts and waits 10 s for each.
 const double UNANSWERED_SECONDS = 9;
 
 /// Returns the reason for an MM_CORE_ERROR_FAILED. Only the text of the error message distinguishes
@@ -58,7 +58,7 @@ TKSV_Failure reasonOfEquipmentError(int code, const UssdCallContext &context)
     }
 }
 
-/// Returns the reason for an error that the daemon reports before it sends the command.
+/// Returns the reason for an error that ModemManager reports before it sends the command.
 TKSV_Failure reasonOfWrongState(const GError &error)
 {
     if (says(error, "no active session")) // the answer was sent too late
@@ -120,8 +120,8 @@ bool isInProgress(const GError &error)
     return isCoreError(error, MM_CORE_ERROR_IN_PROGRESS);
 }
 
-/// Returns true if the policy denied the call, or if polkit is missing or does not respond. In
-/// these last two cases, the daemon reports MM_CORE_ERROR_FAILED.
+/// Returns true if the policy denied the call, or if polkit is missing or does not respond. Without
+/// polkit, ModemManager reports MM_CORE_ERROR_FAILED.
 bool isNotPermitted(const GError &error)
 {
     const bool lacksPolkit =

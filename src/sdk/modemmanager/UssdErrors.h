@@ -20,14 +20,15 @@ struct UssdCallContext {
 /// true.
 Failure failureOfUssdError(const GError &error, const UssdCallContext &context);
 
-/// Returns true if the daemon is still busy with an earlier call.
+/// Returns true if ModemManager is still busy with an earlier call.
 bool isInProgress(const GError &error);
 
-/// Returns true if the daemon or the modem has disappeared. In this case, a device event ends the
+/// Returns true if ModemManager or the modem has disappeared. In this case, a device event ends the
 /// command.
 bool isServiceLost(const GError &error);
 
-/// Returns true if the system's policy denied the call.
+/// Returns true if the system's policy denied the call, or if polkit is missing or does not
+/// respond.
 bool isNotPermitted(const GError &error);
 
 /// Returns the problem to report to the user if the modem could not be enabled.

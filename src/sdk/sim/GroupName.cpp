@@ -14,8 +14,8 @@ const char SMS_PREFIX[] = "SMS ";
 const char PUSH_PREFIX[] = "Push ";
 const char EVENT_PREFIX[] = "Event ";
 
-/// Returns true if the name is a code or a code pattern, which contains one %s as a placeholder for
-/// digits.
+/// Returns true if the name is a code, or a code pattern. A pattern contains one %s as a
+/// placeholder for digits.
 bool isCodeOrPattern(const std::string &name)
 {
     std::string rest = name;

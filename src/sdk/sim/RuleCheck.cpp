@@ -20,7 +20,9 @@ std::string inBraces(std::vector<std::string> names)
 }
 
 /**
- * Checks that the keys of a rule are consistent with each other and with the rest of the scenario.
+ * Checks a rule: a group that specifies the response to a code or an answer, or the text of a
+ * network-initiated message. Its keys must be consistent with each other and with the rest of the
+ * scenario.
  */
 class RuleCheck
 {

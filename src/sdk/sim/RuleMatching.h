@@ -24,7 +24,8 @@ Match findCode(const Scenario &scenario, const std::string &code);
 Match findAnswer(const Scenario &scenario, const std::string &menu, const std::string &answer);
 /// Returns true if the group has answers, so that its reply leaves the session open.
 bool isMenu(const Scenario &scenario, const std::string &group);
-/// Returns the rule for this number, or else the rule for all other numbers.
+/// Returns the rule for this number, or else the rule for all other numbers. If there is neither,
+/// returns a rule that sends messages successfully.
 SmsRule findSms(const Scenario &scenario, const std::string &number);
 
 /// Returns the digits matched by %s, or std::nullopt if the code does not match the pattern.

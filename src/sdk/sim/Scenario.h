@@ -38,7 +38,7 @@ enum class Outcome {
     DeviceEvent
 };
 
-/** The rule for a code or for an answer to a menu. */
+/** The response to a code or to an answer to a menu, or a network-initiated message. */
 struct Rule {
     Outcome outcome = Outcome::Reply;
     std::string reply;
@@ -50,8 +50,8 @@ struct Rule {
     std::size_t maxDigits = MAX_CODE_DIGITS;
     std::string wrongDigits;
 
-    /// The change to the balance: `credit` plus `creditDigits` (1, 0 or -1) times the value of the
-    /// digits. `creditDigits` refers to whole currency units.
+    /// The change to the balance: `credit` plus `creditDigits` (1, 0 or -1) times the number that
+    /// %s matches. This number is an amount in whole currency units.
     Amount credit = 0;
     int creditDigits = 0;
     std::string notEnough; // the reply if the balance is too low
@@ -60,7 +60,7 @@ struct Rule {
     AwayTime away = DEFAULT_AWAY;
 };
 
-/** The rule for short messages to a number. */
+/** Specifies how the network handles short messages to a number. */
 struct SmsRule {
     int result = 0; // value of TKSV_SMSSendResult::result
     Milliseconds delay = Milliseconds(0);

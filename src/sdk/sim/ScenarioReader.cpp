@@ -108,7 +108,7 @@ const Key<TimedEvent> EVENT_KEYS[] = {
 };
 
 /// Reads the keys of a group. Returns true if the group contains only valid lines and known keys.
-/// Otherwise, a key that is missing may only be misspelt and should not be reported.
+/// If it returns false, do not report missing keys, because they may only be misspelt.
 template <typename T, std::size_t N>
 bool readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Complaints &complaints)
 {

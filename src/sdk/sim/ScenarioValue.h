@@ -37,7 +37,7 @@ public:
     std::string name(std::size_t maxBytes) const;
     int number(int min, int max) const;
     Milliseconds milliseconds() const;
-    /// Returns a number of milliseconds, or std::nullopt for "never".
+    /// Returns the value in milliseconds, or std::nullopt if it is "never".
     AwayTime away() const;
     Amount amount() const;
     std::string digits(std::size_t min, std::size_t max) const;

@@ -17,7 +17,7 @@ const std::size_t MAX_BYTES = std::size_t(1024) * 1024;
 
 using FilePointer = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
 
-/// Opens the file without blocking if it is a named pipe. The caller then rejects the pipe with
+/// Opens the file. Opening a named pipe does not block; the caller then rejects the pipe with
 /// isRegular().
 FilePointer openFile(const std::string &path)
 {
