@@ -51,7 +51,7 @@ int checkedWidth(QPushButton *filter)
 {
     filter->ensurePolished();
     QFont bold = filter->font();
-    bold.setWeight(QFont::DemiBold);
+    bold.setWeight(STRONG_WEIGHT);
     const int text = QFontMetrics(bold).horizontalAdvance(filter->text());
     return text + 2 * px(FILTER_PADDING) + FILTER_BORDERS;
 }
