@@ -246,7 +246,7 @@ void UssdModemTest::aChainStopsAtAChangedMenu()
     const Run result = run("run Pack");
     COMPARE_EXIT(result, EXIT_MENU_OPEN);
     QVERIFY2(result.error.contains(latin1("Stopped at step 3 of 3")), qPrintable(result.error));
-    QCOMPARE(modem().timesReceived(INITIATE), 2); // the choice that would buy something is not sent
+    QCOMPARE(modem().timesReceived(INITIATE), 2); // the choice that triggers a purchase is not sent
     QVERIFY(modem().waitForCommand(CANCEL));
     QVERIFY(isIdle());
 }
@@ -328,7 +328,7 @@ void UssdModemTest::aSignalEndsTheMenuOfAChat()
 }
 
 /// Tests that `ussd` does not send the answer if a signal arrives while it is writing the menu. The
-/// answer might buy something.
+/// answer might trigger a purchase.
 void UssdModemTest::afterASignalNoAnswerIsSent()
 {
     const FullPipe pipe;

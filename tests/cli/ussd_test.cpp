@@ -752,7 +752,7 @@ void UssdProgramTest::afterASignalNothingIsSent_data()
 }
 
 /// Tests that the program does not send the next code or answer if a signal arrives while it is
-/// writing the first reply. The next code or answer might buy something.
+/// writing the first reply. The next code or answer might trigger a purchase.
 void UssdProgramTest::afterASignalNothingIsSent()
 {
     QFETCH(QByteArray, line);

@@ -241,7 +241,7 @@ void SendTest::aSignalEndsTheCommand()
 }
 
 /// Tests that the program does not send the answer if a signal arrives while the program is writing
-/// the first reply to a full pipe. The answer might buy something.
+/// the first reply to a full pipe. The answer might trigger a purchase.
 void SendTest::afterASignalNoAnswerIsSent()
 {
     const QString name = folder() + QLatin1String("/pipe");

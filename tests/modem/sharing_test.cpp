@@ -476,7 +476,7 @@ void ModemSharingTest::aWaitingCommandFailsWithTheRegistration()
 }
 
 /// Tests that a command whose turn does not come in time fails and is never sent. A late command
-/// might buy something long after its client has stopped waiting.
+/// might trigger a purchase long after its client has stopped waiting.
 void ModemSharingTest::aCommandThatMissesItsTurnIsNeverSent()
 {
     useModem();

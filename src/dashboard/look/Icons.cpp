@@ -74,8 +74,8 @@ QPixmap pixmapOf(const char *name, const QColor &color, const QSize &size)
     return pixmap;
 }
 
-/// Reads the file without detecting its format. To detect the format, Qt would ask each of its image
-/// format plug-ins.
+/// Reads the file without detecting its format. To detect the format, Qt would ask each of its
+/// image format plug-ins.
 QPixmap pngPixmap(const QString &file)
 {
     QImageReader reader(file, "png");

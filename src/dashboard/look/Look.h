@@ -73,9 +73,10 @@ inline int px(int at100Percent)
     return Look::instance().px(at100Percent);
 }
 
-/// The weight that Qt assigns to "font-weight: 600" of the style sheet. With another weight of the
-/// same typeface, Qt would load the font twice.
-const QFont::Weight STRONG_WEIGHT = QT_VERSION_MAJOR == 5 ? QFont::Bold : QFont::DemiBold;
+/// The weight that "font-weight: 600" of the style sheet selects. Qt 5, whose weights are below
+/// 100, divides this value by 8. With another weight of the same typeface, Qt would load the font
+/// twice.
+const QFont::Weight STRONG_WEIGHT = QFont::Weight(QFont::Bold < 100 ? 600 / 8 : 600);
 
 /// Returns the font with this weight and size. The size is in pixels at 100 % text size.
 QFont sized(QFont font, int at100Percent, QFont::Weight weight);

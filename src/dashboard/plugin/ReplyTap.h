@@ -21,7 +21,7 @@ struct Reply {
 
 /**
  * Receives the same replies from the device as the plug-in. The transcript of the plug-in is not
- * sufficient, because its markup does not preserve white space and brackets. Only one tap may exist
+ * sufficient, because its markup does not preserve white space or brackets. Only one tap may exist
  * at a time. It must be constructed before the plug-in is loaded, so that it receives each reply
  * before the plug-in does.
  */
