@@ -49,6 +49,15 @@ function(ussd_link_runtime_statically target)
     endif()
 endfunction()
 
+# Optimises the target for size, for programs that mostly wait for the user. Linux loads nearly all
+# pages of a program at the start. The presets that build quickly or for debugging keep their own
+# optimisation level.
+function(ussd_optimise_for_size target)
+    if(NOT CMAKE_CXX_FLAGS_RELWITHDEBINFO MATCHES "-O1")
+        target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-Os>)
+    endif()
+endfunction()
+
 function(ussd_hide_symbols target)
     set_target_properties(${target} PROPERTIES C_VISIBILITY_PRESET hidden CXX_VISIBILITY_PRESET hidden
                                                VISIBILITY_INLINES_HIDDEN ON)
