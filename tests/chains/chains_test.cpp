@@ -17,7 +17,7 @@ Chain packChain()
     return {"1 GB", "*123#", {{"2", "Internet"}, {"1", "1 GB for 2 EUR"}}};
 }
 
-/// Records the reply to a code that does not contain a number.
+/// Records a code that does not contain a number, and the reply to this code.
 void sendCode(WalkRecorder &walk, const char *code, const char *reply, bool isMenu)
 {
     walk.takeReply(code, true, true, reply, isMenu);

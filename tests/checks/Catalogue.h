@@ -17,7 +17,7 @@ struct CatalogueEntry {
     QString name() const { return context + QLatin1Char('/') + key; }
 };
 
-/// The content of a language file. Each check returns one line per fault.
+/// The content of a language file. The functions that find faults return one line per fault.
 class Catalogue
 {
 public:
@@ -39,7 +39,7 @@ public:
     /// Finds translations with a code that is not enclosed in left-to-right marks.
     QStringList unmarkedCodes() const;
 
-    /// Finds text keys of the plug-in whose translations have the same mnemonic.
+    /// Finds keys in `keysOfAWindow` whose translations have the same mnemonic.
     QStringList clashingMnemonics(const QStringList &keysOfAWindow) const;
 
 private:

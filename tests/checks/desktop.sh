@@ -11,7 +11,8 @@ trap 'rm -rf "$folder"' EXIT
 metainfo=$folder/$placeholder.metainfo.xml
 skipped=
 
-# validate COMMAND FILE: reports the validator's output if the validator rejects the file.
+# validate COMMAND FILE: reports the validator's output if the validator rejects the file or prints
+# an error, a warning or a hint. Skips validators that are not installed.
 validate() {
     local said
     if ! command -v "${1%% *}" >/dev/null; then

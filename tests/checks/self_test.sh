@@ -213,7 +213,7 @@ TS
 write plugins/a.xml <<<'<langID>IDS_D</langID>'
 write src/core/a.cpp <<<'text("IDS_A");'
 
-# translations STATUS ARGUMENT...: runs the script and stores what it prints.
+# translations STATUS ARGUMENT...: runs the script, stores its output, and requires this exit status.
 translations() {
     local status=$1
     shift

@@ -54,8 +54,8 @@ AccountEntry balance(const char *amount, int dayNumber)
     return entry(QString::fromLatin1("Balance: %1 EUR").arg(QLatin1String(amount)), day(dayNumber));
 }
 
-/// Returns the result of SQLite's integrity check. Sets `orphans` to the difference between the
-/// daily totals and the entries.
+/// Returns the result of SQLite's integrity check. Sets `orphans` to the difference between the sum
+/// of the daily rises and the rise of the balance above its initial value of 10000 units.
 QString integrity(const QString &path, int *orphans)
 {
     QString result;

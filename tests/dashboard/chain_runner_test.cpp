@@ -255,8 +255,8 @@ void ChainRunnerTest::theUsersCodeEndsTheChain()
 void ChainRunnerTest::whatTheUserTypesStopsTheChain()
 {
     fakeSdkScript({fakeReply(MAIN_MENU, 1), fakeReply(PACKS, 1)});
-    // The user is faster than the chain: the field accepts input, but the chain has not checked it
-    // yet.
+    // The user is faster than the chain: the field accepts input, but the chain has not checked the
+    // menu yet.
     const auto connection = connect(&monitor(), &CommandMonitor::changed, this, [this] {
         if (state().kind == Kind::MenuOpen && page().commandEdit()->isEnabled())
             typeInto(page().commandEdit(), QLatin1String("0"));

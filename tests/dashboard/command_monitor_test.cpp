@@ -484,7 +484,7 @@ void CommandMonitorTest::aDisabledPageDoesNotWait()
     QCOMPARE(state().kind, Kind::Ready);
 }
 
-// Tests that a failed query of the program is not shown, but that the failure of the user's next
+// Tests that a failed prepaid/postpaid query is not shown, but that the failure of the user's next
 // code is shown.
 void CommandMonitorTest::aFailedQueryOfTheProgramIsNotShown()
 {

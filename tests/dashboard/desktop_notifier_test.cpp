@@ -226,7 +226,7 @@ void DesktopNotifierTest::aClickOpensTheMessage()
             [&activated](DesktopNote::Kind, qint64 id) { activated << id; });
     say("first");
     QVERIFY(isNotified(1));
-    // The notification belongs to another program.
+    // Notification 99 belongs to another program.
     emit m_service->ActionInvoked(99, latin1("default"));
     emit m_service->ActionInvoked(7, latin1("default"));
     QVERIFY(QTest::qWaitFor([&] { return !activated.isEmpty(); }, LIMIT));

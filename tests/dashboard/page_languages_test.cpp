@@ -37,7 +37,7 @@ bool isTooWide(const QScrollArea *area)
 }
 
 /// Returns true if the widget has less room than its text needs. Labels that elide or wrap their
-/// text are never cut, and neither are the plug-in's preset buttons, which elide it.
+/// text are never cut, and neither are the plug-in's preset buttons, which elide their text.
 bool isCut(const QWidget *widget)
 {
     const QLabel *label = qobject_cast<const QLabel *>(widget);

@@ -13,7 +13,8 @@ namespace
 const QFile::Permissions OWNER =
     QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
 
-/** A tour in one language. It runs only once, and several tests check its result. */
+/** A run of the program with --tour in one language. The program runs only once, and several tests
+    check the pictures. */
 class TakenTour
 {
 public:

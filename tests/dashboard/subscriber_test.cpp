@@ -194,7 +194,8 @@ void SubscriberTest::theBalanceIsNotAskedAbroadOrWhileBlocked()
     QTRY_COMPARE(asked(), 1);
 }
 
-/// Tests that a code does not replace what the user is typing, and does not end an open menu.
+/// Tests that the automatic balance query does not replace what the user is typing, and does not
+/// end an open menu.
 void SubscriberTest::theBalanceIsNotAskedWhileTheUserTypes()
 {
     useNetwork(IMSI, "", BALANCE_AND_MENU);

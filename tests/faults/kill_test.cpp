@@ -210,8 +210,8 @@ void saveLanguage(const char *code)
 }
 } // namespace
 
-/// Returns the index of the saved language in LANGUAGES, or 9 if no language is saved. A separate
-/// process reads the setting because Qt caches settings in memory.
+/// Returns the index of the saved language in LANGUAGES, or 9 if no language is saved. Must be
+/// called in a separate process, because Qt caches settings in memory.
 int KillTest::savedLanguage()
 {
     const QString code = DashboardSettings().language();

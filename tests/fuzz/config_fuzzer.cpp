@@ -46,7 +46,8 @@ void checkAttributes(USSDLogic &logic, bool alsoUnknown)
                 checkAttribute(logic, paidType, component, attribute);
 }
 
-/// Checks that two calls to the same getter return the same values for an unchanged file.
+/// Checks that two calls to the getters of the sections return the same values for an unchanged
+/// file.
 void checkSections(USSDLogic &logic)
 {
     for (const _CHAR_SET_COLOR which : {CHAR_SET_SEND, CHAR_SET_RECEIVE}) {

@@ -39,7 +39,7 @@ void checkGroup(const CWidget &group, int dialogWidth)
         checkControl(*control, dialogWidth);
 }
 
-/// Checks that the tree starts with its root and has two levels.
+/// Checks that the tree has two levels and does not have too many entries.
 void checkTree(const SmsLayout &layout)
 {
     FUZZ_REQUIRE(layout.ordinaryEntries <= SmsLayoutFile::MAX_ORDINARY_ENTRIES);

@@ -22,7 +22,7 @@ public:
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
 
-    /// Starts the program `arguments[0]`, which is searched for in $PATH and /usr/sbin. Its
+    /// Starts the program `arguments[0]`, which is searched for in $PATH, /usr/sbin and /sbin. Its
     /// standard output and standard error are written to the file `log`. The program inherits
     /// `keptDescriptor` unless it is -1.
     bool start(const std::vector<std::string> &arguments, const std::string &log,
