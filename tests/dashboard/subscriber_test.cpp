@@ -207,7 +207,8 @@ void SubscriberTest::theBalanceIsNotAskedWhileTheUserTypes()
     QCOMPARE(ask("*123#"), QLatin1String("1 One\n2 Two"));
     QVERIFY(!look(0));
     QCOMPARE(ask("1"), QLatin1String("One"));
-    QVERIFY(look(0));
+    look(0); // a change of the device may already have caused the query
+    QCOMPARE(asked(), 1);
 }
 
 /* ---- the balance on Home ----------------------------------------------------------------- */
