@@ -68,8 +68,8 @@ public slots:
     void removeAll();
 
 signals:
-    /// Emitted when an entry was added, when the SIM or the result of isOutdated() has changed, and
-    /// after removeAll().
+    /// Emitted when an entry has been added, when the SIM or the result of isOutdated() has
+    /// changed, and after removeAll().
     void changed();
     /// Emitted with a message for the user if entries cannot be stored.
     void problem(const QString &text);

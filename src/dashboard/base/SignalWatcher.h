@@ -23,7 +23,7 @@ public:
     int signalNumber() const { return m_signalNumber; }
 
 signals:
-    /// Emitted when the first signal was received.
+    /// Emitted when the first signal has been received.
     void received();
 
 private slots:

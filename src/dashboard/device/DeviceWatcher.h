@@ -44,7 +44,8 @@ signals:
     void changed();
     /// Emitted when the state of the session or its newest request has changed; see readSession().
     void sessionChanged();
-    /// Emitted when the device was removed or reset. There are no pending commands at this time.
+    /// Emitted when the device has been removed or reset. There are no pending commands at this
+    /// time.
     void lost();
 
 private:

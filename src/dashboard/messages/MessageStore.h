@@ -66,10 +66,10 @@ public slots:
 
 signals:
     void added(const Message &message);
-    /// Emitted when the message with the identifier `id` was marked as read, was removed, or no
-    /// longer requires an answer.
+    /// Emitted when the message with the identifier `id` has been marked as read, has been removed,
+    /// or no longer requires an answer.
     void changed(qint64 id);
-    /// Emitted when all messages were marked as read.
+    /// Emitted when all messages have been marked as read.
     void allRead();
     /// Emitted when the visible messages have been replaced, for example with those of another SIM.
     void reset();

@@ -26,7 +26,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// The signals are emitted when a frame was closed or when the command field accepts input
+    /// The signals are emitted when a frame has been closed or when the command field accepts input
     /// again, after the event that caused the change has been handled. They may also be emitted if
     /// nothing has changed.
     void frameClosed();

@@ -93,14 +93,14 @@ public slots:
 
 signals:
     void deviceChosen();
-    /// Emitted when the plug-in was loaded or restarted, or when this has failed.
+    /// Emitted when the plug-in has been loaded or restarted, or when this has failed.
     void pluginStarted(const PluginFailure &failure);
     /// Emitted when the windows to offer may have changed.
     void windowsOffered();
     void paidTypeChanged();
     void frameOpened();
-    /// Emitted when a window of the plug-in that has its own frame was closed. The user may have
-    /// saved codes in this window.
+    /// Emitted when a window of the plug-in that has its own frame has been closed. The user may
+    /// have saved codes in this window.
     void frameClosed();
     void commandEnded();
     /// Emitted when a network-initiated message has arrived.

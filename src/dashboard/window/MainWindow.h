@@ -101,8 +101,8 @@ public slots:
     void showMenu();
 
 signals:
-    /// Emitted when a window of the plug-in that has its own frame was closed. The user may have
-    /// saved codes in this window.
+    /// Emitted when a window of the plug-in that has its own frame has been closed. The user may
+    /// have saved codes in this window.
     void frameClosed();
 
 protected:

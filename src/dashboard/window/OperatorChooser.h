@@ -16,8 +16,8 @@ class OperatorDialog;
 enum class Remedy;
 
 /**
- * Suggests an operator's codes once for each home network, and lets the user change this
- * decision at any time.
+ * Suggests an operator's codes once for each home network, and lets the user choose
+ * different codes at any time.
  */
 class OperatorChooser : public QObject
 {

@@ -42,7 +42,7 @@ public:
     bool isListening() const { return m_notifier; }
 
 signals:
-    /// Emitted when another instance was started and requests that the window be raised.
+    /// Emitted when another instance has been started and requests that the window be raised.
     void raiseRequested();
 
 private:
